@@ -1,0 +1,66 @@
+/*
+ * Command adapter: the named commands registered with the interface manager.
+ * Every handler takes the request buffer (the reply is written over it), the
+ * request length and the caller's reply-length word, and returns a result
+ * code. Each is registered under its own function name.
+ */
+#ifndef ZE_ADAPTER_CLI_H
+#define ZE_ADAPTER_CLI_H
+
+#include <stdint.h>
+
+#include "ze_result.h"
+#include "ze_types.h"
+
+ZE_BEGIN_DECLS
+
+#define ZE_ADAPTER_CLI_NAME_LEN 128u
+
+typedef uint32_t (*ze_adapter_cli_handler_f)(void *req, uint32_t req_len, uint32_t *reply_len);
+
+typedef struct {
+    ze_adapter_cli_handler_f handler;
+    char name[ZE_ADAPTER_CLI_NAME_LEN];
+} ze_adapter_cli_entry_s;
+
+/* Registers every command in table order; stops at the first refusal, prints
+ * it and returns its code. */
+ZE_API uint32_t ze_adapter_cli_init(void);
+/* Returns 0; registrations stay in place. */
+ZE_API uint32_t ze_adapter_cli_exit(void);
+
+#define ZE_CLI_HANDLER(name) ZE_API uint32_t name(void *req, uint32_t req_len, uint32_t *reply_len)
+
+/* chip */
+ZE_CLI_HANDLER(ze_adapter_cli_chip_get_version);
+ZE_CLI_HANDLER(ze_adapter_cli_chip_get_vendor);
+ZE_CLI_HANDLER(ze_adapter_cli_chip_set_upmode);
+ZE_CLI_HANDLER(ze_adapter_cli_chip_get_upmode);
+ZE_CLI_HANDLER(ze_adapter_cli_chip_set_access_mode);
+ZE_CLI_HANDLER(ze_adapter_cli_chip_get_access_mode);
+
+/* emac */
+
+/* gmac */
+
+/* flow */
+
+/* lsw_car */
+
+/* lsw_mac */
+
+/* lsw_phy */
+
+/* lsw_port */
+
+/* lsw_qos */
+
+/* lsw_sec */
+
+/* lsw_vlan */
+
+/* lsw_pm */
+
+ZE_END_DECLS
+
+#endif

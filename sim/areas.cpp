@@ -1,0 +1,15 @@
+#include "areas.h"
+
+namespace zesim {
+
+namespace {
+const Area *const kAreas[] = {
+    &kDpLibArea,
+    &kChipArea,
+    &kPortArea,
+};
+}  // namespace
+
+std::span<const Area *const> areas() { return kAreas; }
+
+}  // namespace zesim

@@ -1,0 +1,145 @@
+// Datapath simulator: a behavioural model of the kernel driver behind
+// "/dev/ze_ioctl_dp", of the named kernel calls and of the datapath API
+// library's counter operations. The host platform sends everything here by
+// default; tests and the shell inspect and steer it through this interface.
+//
+// The model is driven by descriptor tables, one per datapath area: a block
+// descriptor names a block's get and set ids, its length and its key fields,
+// and a get returns the block stored under the key that the caller put in
+// the block (or the block's documented defaults when that key was never
+// written); a set stores it. Commands that add, delete or clear act through
+// action descriptors on the stored blocks.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace zesim {
+
+using Bytes = std::vector<uint8_t>;
+
+// Codes the simulated driver answers besides those of the library's world.
+// 0xf0000101 (invalid parameter) is only ever returned through fault
+// injection; these never collide with it.
+inline constexpr uint32_t kErrUnknownCommand = 0xf0000102;  // no descriptor for the id
+inline constexpr uint32_t kErrBracket = 0xf0000103;         // command outside a bracket, second open, stray close
+inline constexpr uint32_t kErrNullBlock = 0xf0000104;       // a block command sent with argument 0
+inline constexpr uint32_t kErrUnknownCall = 0xf0000105;     // unknown named kernel call
+
+inline constexpr uint32_t kCmdOpen = 0;
+inline constexpr uint32_t kCmdClose = 1;
+
+struct KeyField {
+    uint16_t offset;
+    uint8_t width;  // 1, 2 or 4 bytes
+};
+
+struct BlockDesc {
+    const char *name;
+    uint32_t get_id;  // 0: the block cannot be read
+    uint32_t set_id;  // 0: the block is read-only
+    uint32_t length;
+    KeyField keys[2] = {};                     // width 0: unused; none: one block for the chip
+    void (*defaults)(uint8_t *block) = nullptr;  // content of a never-written key; null: zeros
+};
+
+// A command that is not a plain read or write of one stored block.
+struct ActionDesc {
+    const char *name;
+    uint32_t id;
+    uint32_t length;                   // bytes read from the caller; 0: no payload
+    uint32_t (*run)(uint8_t *block);   // returns the driver's answer
+};
+
+// A named kernel call (ze_os_hlp_sendioctl).
+struct KernelCallDesc {
+    const char *name;
+    uint32_t (*run)(uint8_t *payload, uint32_t len, uint32_t *out_len);
+};
+
+// An operation of the datapath API library that is not a block exchange
+// (counter clears, right release). The argument is the call's index.
+struct DpOpDesc {
+    const char *name;
+    uint32_t (*run)(uint32_t index);
+};
+
+// One datapath area's share of the model.
+struct Area {
+    const char *name;
+    std::span<const BlockDesc> blocks;
+    std::span<const ActionDesc> actions = {};
+    std::span<const KernelCallDesc> kernel_calls = {};
+    std::span<const DpOpDesc> dp_ops = {};
+};
+
+// ---- The driver side -------------------------------------------------------
+// One datapath command: id and argument word (the block address, or 0).
+uint32_t ioctl(uint32_t cmd, uintptr_t arg);
+// One named kernel call.
+uint32_t kernel_call(const char *name, void *payload, uint32_t len, uint32_t *out_len);
+// One datapath API library operation that is not a block exchange.
+uint32_t dp_op(const char *name, uint32_t index);
+// A datapath API library block call: the block exchanged with `cmd` in a
+// bracket of its own, logged under the call's name.
+uint32_t dp_block_call(const char *name, uint32_t cmd, void *block);
+
+// ---- State -------------------------------------------------------------------
+// Forget every stored block, the log, the faults and the bracket.
+void reset();
+
+// The stored content of a block (defaults if never written). `keys` are the
+// values of the block's key fields, in descriptor order.
+Bytes block(uint32_t id, std::initializer_list<uint32_t> keys = {});
+// Store a block's content as a set command would (keys taken from it).
+void store(uint32_t id, const Bytes &content);
+uint32_t word(uint32_t id, uint32_t offset, std::initializer_list<uint32_t> keys = {});
+void set_word(uint32_t id, uint32_t offset, uint32_t value, std::initializer_list<uint32_t> keys = {});
+// Direct access for action descriptors: the stored bytes of a block under the
+// keys found in `keysrc` (a block laid out like the stored one), created with
+// its defaults when absent. Valid until the next reset.
+uint8_t *stored_block(uint32_t id, const uint8_t *keysrc);
+// Visit every stored instance of a block (any key).
+void for_each_stored(uint32_t id, void (*fn)(uint8_t *block, void *ctx), void *ctx);
+
+// ---- Descriptors -------------------------------------------------------------
+std::span<const Area *const> areas();
+const BlockDesc *find_block(uint32_t id);  // by get or set id
+const ActionDesc *find_action(uint32_t id);
+
+// ---- Command log ----------------------------------------------------------------
+enum class EntryKind { Ioctl, KernelCall, DpOp };
+
+struct LogEntry {
+    EntryKind kind;
+    uint32_t cmd;       // ioctl: command id; dp op: the index
+    std::string name;   // kernel call or dp op name; ioctl: the datapath API call that sent it, if any
+    bool has_block;     // ioctl with a non-zero argument / kernel call with payload
+    Bytes sent;         // block or payload as it arrived
+    Bytes returned;     // as it went back
+    uint32_t result;
+};
+
+inline constexpr size_t kLogCapacity = 200000;
+const std::deque<LogEntry> &log();
+void clear_log();
+// Command ids of the logged ioctls, without the bracket commands 0 and 1.
+std::vector<uint32_t> commands();
+// Every logged ioctl id including the bracket.
+std::vector<uint32_t> raw_commands();
+
+// ---- Fault injection -------------------------------------------------------------
+// Fail command `cmd` with `code`: on its nth occurrence counted from now
+// (1-based), or on every occurrence when nth is 0. A failed command changes
+// nothing in the model. Command 0 is the bracket open.
+void fail(uint32_t cmd, uint32_t code, uint32_t nth = 0);
+// The same for a named kernel call or datapath library operation.
+void fail_call(const char *name, uint32_t code, uint32_t nth = 0);
+void clear_faults();
+
+}  // namespace zesim

@@ -1,0 +1,8 @@
+/* Every public header, compiled as C11. */
+#include "ze_adapter_cli.h"
+#include "ze_chip.h"
+#include "ze_lsw_common.h"
+#include "ze_result.h"
+#include "ze_types.h"
+
+int main(void) { return 0; }

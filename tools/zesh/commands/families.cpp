@@ -1,0 +1,13 @@
+// The families of command rows, in registry order.
+#include "families.h"
+
+namespace zesh {
+
+std::span<const Family> families() {
+    static const Family kFamilies[] = {
+        {"chip", kChipCommands},
+    };
+    return kFamilies;
+}
+
+}  // namespace zesh

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "../command_table.h"
+
+namespace zesh {
+
+extern const std::span<const CommandSpec> kChipCommands;
+
+}  // namespace zesh

@@ -1,0 +1,81 @@
+// zesh: the operator shell. Hosts the adapter library on the simulator (or a
+// real device node), registers its commands and runs them by name.
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+
+#include "line_input.h"
+#include "shell.h"
+#include "ze_adapter_cli.h"
+#include "ze_host.h"
+
+namespace {
+
+void usage() {
+    std::cout << "usage: zesh [--device NODE] [--trace] [-c 'CMD; CMD ...' | FILE]\n"
+                 "  no argument: interactive (a non-terminal input is read as a script)\n"
+                 "  --device NODE  send datapath commands to NODE instead of the simulator\n"
+                 "  --trace        echo every trace record to stderr\n";
+}
+
+bool run_stream(zesh::Shell &sh, std::istream &in) {
+    bool ok = true;
+    std::string line;
+    while (!sh.quit_requested() && std::getline(in, line)) ok = sh.run_line(line) && ok;
+    return ok;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    const char *script = nullptr, *file = nullptr;
+    for (int i = 1; i < argc; ++i) {
+        if (!std::strcmp(argv[i], "-c") && i + 1 < argc) {
+            script = argv[++i];
+        } else if (!std::strcmp(argv[i], "--device") && i + 1 < argc) {
+            ze_host_use_device(argv[++i]);
+        } else if (!std::strcmp(argv[i], "--trace")) {
+            ze_host_trace_echo(stderr);
+        } else if (!std::strcmp(argv[i], "-h") || !std::strcmp(argv[i], "--help")) {
+            usage();
+            return 0;
+        } else if (argv[i][0] != '-' && !file) {
+            file = argv[i];
+        } else {
+            usage();
+            return 2;
+        }
+    }
+
+    zesh::Shell sh(std::cout);
+    uint32_t r = ze_adapter_cli_init();
+    if (r) {
+        std::cerr << "\nzesh: command registration failed with 0x" << std::hex << r << "\n";
+        return 1;
+    }
+
+    if (script) return sh.run_line(script) ? 0 : 1;
+    if (file) {
+        std::ifstream in(file);
+        if (!in) {
+            std::cerr << "zesh: cannot open " << file << "\n";
+            return 2;
+        }
+        return run_stream(sh, in) ? 0 : 1;
+    }
+    if (!isatty(STDIN_FILENO)) return run_stream(sh, std::cin) ? 0 : 1;
+
+    std::cout << "zesh: switch adapter shell on "
+              << (ze_host_backend_is_simulator() ? "the simulator" : "a device node")
+              << ". 'help' lists the commands.\n";
+    zesh::line_input_init(sh.completion_names());
+    while (!sh.quit_requested()) {
+        auto line = zesh::read_line("zesh> ");
+        if (!line) break;
+        sh.run_line(*line);
+    }
+    return 0;
+}

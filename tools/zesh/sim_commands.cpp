@@ -1,0 +1,179 @@
+// "sim ..." built-ins: look into and steer the datapath simulator.
+#include <cstdio>
+#include <ostream>
+
+#include "shell.h"
+#include "ze_host.h"
+#include "ze_sim.h"
+
+namespace zesh {
+namespace {
+
+bool need_simulator(Shell &sh) {
+    if (ze_host_backend_is_simulator()) return true;
+    sh.out() << "sim: the shell runs on a device node, not on the simulator\n";
+    return false;
+}
+
+bool numbers(Shell &sh, const std::vector<std::string> &args, size_t from, std::vector<uint32_t> &out) {
+    for (size_t i = from; i < args.size(); ++i) {
+        uint64_t v;
+        if (!parse_number(args[i], v)) {
+            sh.out() << "sim: bad number '" << args[i] << "'\n";
+            return false;
+        }
+        out.push_back(static_cast<uint32_t>(v));
+    }
+    return true;
+}
+
+std::string hex(const zesim::Bytes &b, size_t max = 24) {
+    std::string s;
+    char x[4];
+    for (size_t i = 0; i < b.size() && i < max; ++i) {
+        std::snprintf(x, sizeof x, "%02x", b[i]);
+        s += x;
+    }
+    if (b.size() > max) s += "...";
+    return s;
+}
+
+bool block_exists(Shell &sh, uint32_t id) {
+    if (zesim::find_block(id)) return true;
+    sh.out() << "sim: no block with command 0x" << std::hex << id << std::dec << "\n";
+    return false;
+}
+
+// Key values given after the fixed arguments: none, one or two.
+template <class Fn>
+void with_keys(const std::vector<uint32_t> &v, size_t from, Fn &&fn) {
+    if (v.size() > from + 1)
+        fn({v[from], v[from + 1]});
+    else if (v.size() > from)
+        fn({v[from]});
+    else
+        fn({});
+}
+
+bool sim_reset(Shell &, const std::vector<std::string> &) {
+    zesim::reset();
+    return true;
+}
+
+bool sim_log(Shell &sh, const std::vector<std::string> &args) {
+    std::vector<uint32_t> n;
+    if (!numbers(sh, args, 2, n)) return false;
+    const auto &log = zesim::log();
+    size_t count = n.empty() ? 20 : n[0];
+    size_t first = count < log.size() ? log.size() - count : 0;
+    char line[128];
+    for (size_t i = first; i < log.size(); ++i) {
+        const zesim::LogEntry &e = log[i];
+        if (e.kind == zesim::EntryKind::Ioctl)
+            std::snprintf(line, sizeof line, "ioctl 0x%03x%s%s result=0x%08x", e.cmd,
+                          e.name.empty() ? "" : " via ", e.name.c_str(), e.result);
+        else
+            std::snprintf(line, sizeof line, "%s %s(%u) result=0x%08x",
+                          e.kind == zesim::EntryKind::DpOp ? "dp" : "kcall", e.name.c_str(), e.cmd,
+                          e.result);
+        sh.out() << line;
+        if (!e.sent.empty()) sh.out() << " sent=" << hex(e.sent) << " returned=" << hex(e.returned);
+        sh.out() << "\n";
+    }
+    return true;
+}
+
+bool sim_fail(Shell &sh, const std::vector<std::string> &args) {
+    std::vector<uint32_t> v;
+    if (args.size() < 4) {
+        sh.out() << "usage: sim fail CMD|CALL CODE [NTH]\n";
+        return false;
+    }
+    if (!numbers(sh, args, 3, v)) return false;
+    uint64_t cmd;
+    if (parse_number(args[2], cmd))
+        zesim::fail(static_cast<uint32_t>(cmd), v[0], v.size() > 1 ? v[1] : 0);
+    else
+        zesim::fail_call(args[2].c_str(), v[0], v.size() > 1 ? v[1] : 0);
+    return true;
+}
+
+bool sim_clear_faults(Shell &, const std::vector<std::string> &) {
+    zesim::clear_faults();
+    return true;
+}
+
+bool sim_block(Shell &sh, const std::vector<std::string> &args) {
+    std::vector<uint32_t> v;
+    if (args.size() < 3 || !numbers(sh, args, 2, v) || !block_exists(sh, v[0])) return false;
+    zesim::Bytes b;
+    with_keys(v, 1, [&](std::initializer_list<uint32_t> k) { b = zesim::block(v[0], k); });
+    char line[80];
+    for (size_t off = 0; off < b.size(); off += 16) {
+        std::snprintf(line, sizeof line, "%04zx:", off);
+        sh.out() << line;
+        for (size_t i = off; i < off + 16 && i < b.size(); i += 4) {
+            uint32_t w = 0;
+            for (size_t k = 0; k < 4 && i + k < b.size(); ++k) w |= uint32_t(b[i + k]) << (8 * k);
+            std::snprintf(line, sizeof line, " %08x", w);
+            sh.out() << line;
+        }
+        sh.out() << "\n";
+    }
+    return true;
+}
+
+bool sim_set(Shell &sh, const std::vector<std::string> &args) {
+    std::vector<uint32_t> v;
+    if (args.size() < 5 || !numbers(sh, args, 2, v) || !block_exists(sh, v[0])) {
+        if (args.size() < 5) sh.out() << "usage: sim set CMD OFFSET VALUE [KEY [KEY]]\n";
+        return false;
+    }
+    with_keys(v, 3, [&](std::initializer_list<uint32_t> k) { zesim::set_word(v[0], v[1], v[2], k); });
+    return true;
+}
+
+bool sim_blocks(Shell &sh, const std::vector<std::string> &) {
+    char line[160];
+    for (const zesim::Area *area : zesim::areas()) {
+        for (const zesim::BlockDesc &b : area->blocks) {
+            std::snprintf(line, sizeof line, "%-10s get 0x%03x set 0x%03x %5u bytes  %s\n", area->name,
+                          b.get_id, b.set_id, b.length, b.name);
+            sh.out() << line;
+        }
+        for (const zesim::ActionDesc &a : area->actions) {
+            std::snprintf(line, sizeof line, "%-10s cmd 0x%03x          %5u bytes  %s\n", area->name,
+                          a.id, a.length, a.name);
+            sh.out() << line;
+        }
+    }
+    return true;
+}
+
+const SimCommand kSimCommands[] = {
+    {"reset", "reset                  forget every stored block, the log and the faults", sim_reset},
+    {"log", "log [N]                the last N driver commands (default 20)", sim_log},
+    {"fail", "fail CMD|CALL CODE [NTH]  fail a command id or named call (every time, or the NTH)",
+     sim_fail},
+    {"clear-faults", "clear-faults           remove every injected fault", sim_clear_faults},
+    {"block", "block CMD [KEY [KEY]]  show a stored block as words", sim_block},
+    {"set", "set CMD OFFSET VALUE [KEY [KEY]]  change one word of a stored block", sim_set},
+    {"blocks", "blocks                 list the simulated blocks and commands", sim_blocks},
+};
+
+}  // namespace
+
+std::span<const SimCommand> sim_commands() { return kSimCommands; }
+
+bool run_sim(Shell &sh, const std::vector<std::string> &words) {
+    if (words.size() < 2) {
+        for (const SimCommand &s : kSimCommands) sh.out() << "sim " << s.usage << "\n";
+        return words.size() == 1;
+    }
+    for (const SimCommand &s : kSimCommands)
+        if (words[1] == s.name) return need_simulator(sh) && s.run(sh, words);
+    sh.out() << "sim: no sub-command '" << words[1] << "'\n";
+    return false;
+}
+
+}  // namespace zesh
