@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <array>
 #include <map>
 #include <unordered_map>
 
@@ -20,9 +21,11 @@ struct Fault {
     uint32_t seen;  // occurrences since the fault was set
 };
 
+using Key = std::array<uint32_t, 3>;
+
 struct Model {
     bool bracket_open = false;
-    std::map<std::pair<const BlockDesc *, uint64_t>, Bytes> blocks;
+    std::map<std::pair<const BlockDesc *, Key>, Bytes> blocks;
     std::deque<LogEntry> log;
     std::vector<Fault> faults;
 };
@@ -64,12 +67,10 @@ uint32_t read_field(const uint8_t *p, uint8_t width) {
 
 void write_field(uint8_t *p, uint8_t width, uint32_t v) { std::memcpy(p, &v, width); }
 
-uint64_t key_of(const BlockDesc &d, const uint8_t *src) {
-    uint64_t key = 0;
-    for (int k = 0; k < 2; ++k) {
-        const KeyField &f = d.keys[k];
-        if (f.width) key |= static_cast<uint64_t>(read_field(src + f.offset, f.width)) << (32 * k);
-    }
+Key key_of(const BlockDesc &d, const uint8_t *src) {
+    Key key{};
+    for (size_t k = 0; k < key.size(); ++k)
+        if (d.keys[k].width) key[k] = read_field(src + d.keys[k].offset, d.keys[k].width);
     return key;
 }
 
@@ -89,7 +90,7 @@ Bytes key_source(const BlockDesc &d, std::initializer_list<uint32_t> keys) {
     Bytes src(d.length, 0);
     size_t k = 0;
     for (uint32_t v : keys) {
-        if (k < 2 && d.keys[k].width) write_field(src.data() + d.keys[k].offset, d.keys[k].width, v);
+        if (k < 3 && d.keys[k].width) write_field(src.data() + d.keys[k].offset, d.keys[k].width, v);
         ++k;
     }
     return src;

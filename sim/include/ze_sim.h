@@ -44,7 +44,7 @@ struct BlockDesc {
     uint32_t get_id;  // 0: the block cannot be read
     uint32_t set_id;  // 0: the block is read-only
     uint32_t length;
-    KeyField keys[2] = {};                     // width 0: unused; none: one block for the chip
+    KeyField keys[3] = {};                     // width 0: unused; none: one block for the chip
     void (*defaults)(uint8_t *block) = nullptr;  // content of a never-written key; null: zeros
 };
 

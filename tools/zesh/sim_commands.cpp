@@ -44,10 +44,12 @@ bool block_exists(Shell &sh, uint32_t id) {
     return false;
 }
 
-// Key values given after the fixed arguments: none, one or two.
+// Key values given after the fixed arguments: none to three.
 template <class Fn>
 void with_keys(const std::vector<uint32_t> &v, size_t from, Fn &&fn) {
-    if (v.size() > from + 1)
+    if (v.size() > from + 2)
+        fn({v[from], v[from + 1], v[from + 2]});
+    else if (v.size() > from + 1)
         fn({v[from], v[from + 1]});
     else if (v.size() > from)
         fn({v[from]});
@@ -126,7 +128,7 @@ bool sim_block(Shell &sh, const std::vector<std::string> &args) {
 bool sim_set(Shell &sh, const std::vector<std::string> &args) {
     std::vector<uint32_t> v;
     if (args.size() < 5 || !numbers(sh, args, 2, v) || !block_exists(sh, v[0])) {
-        if (args.size() < 5) sh.out() << "usage: sim set CMD OFFSET VALUE [KEY [KEY]]\n";
+        if (args.size() < 5) sh.out() << "usage: sim set CMD OFFSET VALUE [KEY...]\n";
         return false;
     }
     with_keys(v, 3, [&](std::initializer_list<uint32_t> k) { zesim::set_word(v[0], v[1], v[2], k); });
@@ -156,8 +158,8 @@ const SimCommand kSimCommands[] = {
     {"fail", "fail CMD|CALL CODE [NTH]  fail a command id or named call (every time, or the NTH)",
      sim_fail},
     {"clear-faults", "clear-faults           remove every injected fault", sim_clear_faults},
-    {"block", "block CMD [KEY [KEY]]  show a stored block as words", sim_block},
-    {"set", "set CMD OFFSET VALUE [KEY [KEY]]  change one word of a stored block", sim_set},
+    {"block", "block CMD [KEY...]  show a stored block as words", sim_block},
+    {"set", "set CMD OFFSET VALUE [KEY...]  change one word of a stored block", sim_set},
     {"blocks", "blocks                 list the simulated blocks and commands", sim_blocks},
 };
 
