@@ -6,6 +6,9 @@ namespace zesh {
 std::span<const Family> families() {
     static const Family kFamilies[] = {
         {"chip", kChipCommands},
+        {"emac", kEmacCommands},
+        {"phy", kPhyCommands},
+        {"port", kPortCommands},
     };
     return kFamilies;
 }

@@ -5,5 +5,8 @@
 namespace zesh {
 
 extern const std::span<const CommandSpec> kChipCommands;
+extern const std::span<const CommandSpec> kEmacCommands;
+extern const std::span<const CommandSpec> kPhyCommands;
+extern const std::span<const CommandSpec> kPortCommands;
 
 }  // namespace zesh
