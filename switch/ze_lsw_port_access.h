@@ -14,22 +14,26 @@ inline uint32_t rejected(const TraceSite &s, uint32_t check) { return traced(s, 
 // Any failure of an inner step reaches the caller as 0xffffffff.
 constexpr uint32_t folded(uint32_t r) { return r ? ZE_ERR_FAIL : ZE_OK; }
 
-// Reads the UNI block of Ethernet port `port` and lets `use` copy from it.
-template <class Use>
-uint32_t uni_fetch(const TraceSite &s, uint32_t port, Use &&use) {
+// Runs `op` on a zeroed UNI block holding Ethernet port `port`; a port
+// outside 0..4 is rejected under `s`.
+template <class Op>
+uint32_t with_uni_block(const TraceSite &s, uint32_t port, Op &&op) {
     if (uint32_t r = ze_lsw_eth_port_check(port)) return rejected(s, r);
     Block<UniPort> b;
     b.set(UniPort::port, port);
-    return fetch(s, b, use);
+    return op(b);
+}
+
+// Reads the UNI block of Ethernet port `port` and lets `use` copy from it.
+template <class Use>
+uint32_t uni_fetch(const TraceSite &s, uint32_t port, Use &&use) {
+    return with_uni_block(s, port, [&](Block<UniPort> &b) { return fetch(s, b, use); });
 }
 
 // Get/modify/set of the UNI block of Ethernet port `port`.
 template <class Edit>
 uint32_t uni_update(const TraceSite &s, uint32_t port, Edit &&edit) {
-    if (uint32_t r = ze_lsw_eth_port_check(port)) return rejected(s, r);
-    Block<UniPort> b;
-    b.set(UniPort::port, port);
-    return update(s, b, edit);
+    return with_uni_block(s, port, [&](Block<UniPort> &b) { return update(s, b, edit); });
 }
 
 // Runs `op` on a zeroed PON port block of the form the uplink mode selects:

@@ -50,11 +50,8 @@ uint32_t update_default(const TraceSite &s, Block<L> &b, PortDefault which, uint
 template <class Op>
 uint32_t on_default_block(const TraceSite &s, const char *pon_name, uint32_t port, Op &&op) {
     if (uint32_t r = ze_lsw_port_check(port)) return ze::port::rejected(s, r);
-    if (port < ZE_PORT_ETH_COUNT) {
-        Block<UniPort> b;
-        b.set(UniPort::port, port);
-        return op(s, b);
-    }
+    if (port < ZE_PORT_ETH_COUNT)
+        return ze::port::with_uni_block(s, port, [&](Block<UniPort> &b) { return op(s, b); });
     if (port == ZE_PORT_CPU) {
         Block<CpuPort> b;
         return op(s, b);
