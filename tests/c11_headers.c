@@ -1,7 +1,9 @@
 /* Every public header, compiled as C11. */
 #include "ze_adapter_cli.h"
 #include "ze_chip.h"
+#include "ze_gmac.h"
 #include "ze_lsw_common.h"
+#include "ze_lsw_flow.h"
 #include "ze_lsw_port.h"
 #include "ze_result.h"
 #include "ze_types.h"
