@@ -6,6 +6,8 @@ namespace zesh {
 std::span<const Family> families() {
     static const Family kFamilies[] = {
         {"chip", kChipCommands},
+        {"gmac", kGmacCommands},
+        {"flow", kFlowCommands},
     };
     return kFamilies;
 }
