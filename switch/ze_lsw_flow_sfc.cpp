@@ -177,7 +177,7 @@ uint32_t ze_lsw_flow_set_sfc(const ze_sfc_mapping_s *mapping, uint16_t *sfid) {
 
 uint32_t ze_lsw_flow_delete_sfc(uint32_t sfid) {
     uint8_t status = 0;
-    uint32_t r = ze::map_err(ze_lsw_sfc_get_status(sfid, &status));
+    uint32_t r = ze_lsw_sfc_get_status(sfid, &status);  // 18 for an sfid past the table
     if (r) return ze::traced(ZE_SITE, r);
     if (status != 1) {
         ze::traced(ZE_SITE, ZE_ERR_PARAM);
