@@ -6,8 +6,11 @@ namespace zesh {
 std::span<const Family> families() {
     static const Family kFamilies[] = {
         {"chip", kChipCommands},
+        {"emac", kEmacCommands},
         {"gmac", kGmacCommands},
         {"flow", kFlowCommands},
+        {"phy", kPhyCommands},
+        {"port", kPortCommands},
     };
     return kFamilies;
 }

@@ -5,7 +5,10 @@
 namespace zesh {
 
 extern const std::span<const CommandSpec> kChipCommands;
+extern const std::span<const CommandSpec> kEmacCommands;
 extern const std::span<const CommandSpec> kGmacCommands;
 extern const std::span<const CommandSpec> kFlowCommands;
+extern const std::span<const CommandSpec> kPhyCommands;
+extern const std::span<const CommandSpec> kPortCommands;
 
 }  // namespace zesh
