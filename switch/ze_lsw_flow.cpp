@@ -11,9 +11,6 @@ namespace {
 
 constexpr char kTraceFile[] = "ze_lsw_flow.cpp";
 
-constexpr uint8_t kLanPorts = 0x1f;
-constexpr uint8_t kPonPort = 0x20;
-
 // Makes the record that add and delete see the same for a direction:
 // upstream without a named ingress port takes the five LAN ports,
 // downstream always takes the PON port alone.
@@ -21,10 +18,10 @@ void normalise(ze_sfc_mapping_s &m, uint32_t dir) {
     if (dir == ZE_FLOW_DIR_UP) {
         if (m.key_mask & ZE_SFC_KEY_IGR) return;
         m.key_mask |= ZE_SFC_KEY_IGR;
-        m.igr |= kLanPorts;
+        m.igr |= ze::kIgrLanPorts;
     } else if (dir == ZE_FLOW_DIR_DOWN) {
         m.key_mask |= ZE_SFC_KEY_IGR;
-        m.igr = static_cast<uint8_t>((m.igr | kPonPort) & ~kLanPorts);
+        m.igr = static_cast<uint8_t>((m.igr | ze::kIgrPonPort) & ~ze::kIgrLanPorts);
     }
 }
 

@@ -16,9 +16,6 @@ using ze::SfcAttr;
 // 0..105 and the first 16 bytes of entry 106. The rest keeps its contents.
 constexpr uint32_t kMappingClearBytes = 2560;
 
-constexpr uint8_t kLanPorts = 0x1f;  // ingress bits 0..4
-constexpr uint8_t kPonPort = 0x20;   // ingress bit 5
-
 // Where each key of a mapping record goes in the SFC block.
 struct SfcKey {
     uint32_t bit;
@@ -60,8 +57,8 @@ bool in_use(uint32_t sfid) { return st_sfcmapping[sfid].status == 1; }
 bool gemport_hit(uint32_t sfid, uint32_t gemport, uint32_t dir) {
     const ze_sfc_shadow_s &e = st_sfcmapping[sfid];
     if (e.status != 1 || e.gemport != gemport) return false;
-    if (dir == ZE_FLOW_DIR_UP) return (e.mapping.igr & kLanPorts) != 0;
-    if (dir == ZE_FLOW_DIR_DOWN) return (e.mapping.igr & kPonPort) != 0;
+    if (dir == ZE_FLOW_DIR_UP) return (e.mapping.igr & ze::kIgrLanPorts) != 0;
+    if (dir == ZE_FLOW_DIR_DOWN) return (e.mapping.igr & ze::kIgrPonPort) != 0;
     return false;
 }
 

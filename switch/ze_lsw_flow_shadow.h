@@ -33,6 +33,10 @@ extern uint32_t ui_g0status;
 
 namespace ze {
 
+// Ingress bitmap bits of a mapping record: the five LAN ports, the PON port.
+inline constexpr uint8_t kIgrLanPorts = 0x1f;
+inline constexpr uint8_t kIgrPonPort = 0x20;
+
 // Debug records of the flow classifier functions, always at level 3.
 inline constexpr uint32_t kFlowDebugLevel = 3;
 
