@@ -47,8 +47,29 @@ ZE_CLI_HANDLER(ze_adapter_cli_emac_get_llid);
 ZE_CLI_HANDLER(ze_adapter_cli_emac_set_llid);
 
 /* gmac */
+ZE_CLI_HANDLER(ze_adapter_cli_gmac_set_aes);
+ZE_CLI_HANDLER(ze_adapter_cli_gmac_get_aes);
+ZE_CLI_HANDLER(ze_adapter_cli_gmac_set_gemport);
+ZE_CLI_HANDLER(ze_adapter_cli_gmac_get_gemport);
+ZE_CLI_HANDLER(ze_adapter_cli_gmac_set_fec);
+ZE_CLI_HANDLER(ze_adapter_cli_gmac_get_fec);
+ZE_CLI_HANDLER(ze_adapter_cli_gmac_del_gemport);
+ZE_CLI_HANDLER(ze_adapter_cli_gmac_set_down_gemport_type);
+ZE_CLI_HANDLER(ze_adapter_cli_gmac_get_down_gemport_type);
+ZE_CLI_HANDLER(ze_adapter_cli_gmac_del_down_gemport);
 
 /* flow */
+ZE_CLI_HANDLER(ze_adapter_cli_flow_add_service);
+ZE_CLI_HANDLER(ze_adapter_cli_flow_del_service);
+ZE_CLI_HANDLER(ze_adapter_cli_flow_get_service);
+ZE_CLI_HANDLER(ze_adapter_cli_flow_del_fid);
+ZE_CLI_HANDLER(ze_adapter_cli_flow_del_all);
+ZE_CLI_HANDLER(ze_adapter_cli_flow_diagnose);
+ZE_CLI_HANDLER(ze_adapter_cli_flow_add_mapping);
+ZE_CLI_HANDLER(ze_adapter_cli_flow_del_mapping);
+ZE_CLI_HANDLER(ze_adapter_cli_flow_del_mapping_by_sfid);
+ZE_CLI_HANDLER(ze_adapter_cli_flow_set_mapping_value_select);
+ZE_CLI_HANDLER(ze_adapter_cli_flow_get_mapping_value_select);
 
 /* lsw_car */
 

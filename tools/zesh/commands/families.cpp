@@ -7,6 +7,8 @@ std::span<const Family> families() {
     static const Family kFamilies[] = {
         {"chip", kChipCommands},
         {"emac", kEmacCommands},
+        {"gmac", kGmacCommands},
+        {"flow", kFlowCommands},
         {"phy", kPhyCommands},
         {"port", kPortCommands},
     };

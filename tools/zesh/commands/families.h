@@ -6,6 +6,8 @@ namespace zesh {
 
 extern const std::span<const CommandSpec> kChipCommands;
 extern const std::span<const CommandSpec> kEmacCommands;
+extern const std::span<const CommandSpec> kGmacCommands;
+extern const std::span<const CommandSpec> kFlowCommands;
 extern const std::span<const CommandSpec> kPhyCommands;
 extern const std::span<const CommandSpec> kPortCommands;
 

@@ -1,0 +1,303 @@
+// Extended flow classifier: rule conversion into key items, the free-run
+// search, install blocks, rule ranges and deletes.
+#include <algorithm>
+
+#include "flow_fixture.h"
+
+namespace {
+
+using zetest::action;
+using zetest::entries_of;
+using zetest::occupy_fids;
+using zetest::rule;
+using zetest::word_at;
+using EfcTest = zetest::FlowTest;
+
+struct Items {
+    ze_efc_item_s it[ZE_EFC_ITEM_COUNT] = {};
+    uint8_t count = 0;
+};
+
+Items convert(const ze_efc_rule_s &r) {
+    Items out;
+    EXPECT_EQ(ze_lsw_efc_get_attr(&r, out.it), 0u);
+    ze_lsw_efc_count_itemnum(out.it, &out.count);
+    return out;
+}
+
+TEST_F(EfcTest, DestinationMacTakesOneWholeItem) {
+    ze_efc_rule_s r = rule(0x2);
+    const uint8_t mac[6] = {0x00, 0x11, 0x22, 0x33, 0x44, 0x55};
+    const uint8_t mask[6] = {0xff, 0xff, 0xff, 0x00, 0xff, 0xf0};
+    std::memcpy(r.dmac, mac, 6);
+    std::memcpy(r.dmac_mask, mask, 6);
+    Items i = convert(r);
+    ASSERT_EQ(i.count, 1);
+    EXPECT_EQ(i.it[0].g0, 1u);
+    EXPECT_EQ(i.it[0].g1, 1u);
+    EXPECT_EQ(i.it[0].k0, 0x33221100u);  // first address byte low
+    EXPECT_EQ(i.it[0].k1, 0x5544u);
+    EXPECT_EQ(i.it[0].m0, 8u);  // ~0xffffff00: eight don't-care bits
+    EXPECT_EQ(i.it[0].m1, 4u);  // ~0xfff0 as 16 bits
+    EXPECT_EQ(ui_g0status, 0u);
+}
+
+TEST_F(EfcTest, SingleKeysPairUpAndAnOddOneLeavesAHalfItem) {
+    ze_efc_rule_s r = rule((1u << 7) | (1u << 10) | (1u << 15));
+    r.key7 = 0x0800;
+    r.key10 = 6;
+    r.key15 = 2;
+    Items i = convert(r);
+    ASSERT_EQ(i.count, 2);
+    EXPECT_EQ(i.it[0].g0, 6u);
+    EXPECT_EQ(i.it[0].k0, 0x0800u);
+    EXPECT_EQ(i.it[0].g1, 15u);
+    EXPECT_EQ(i.it[0].k1, 6u);
+    EXPECT_EQ(i.it[1].g0, 7u);
+    EXPECT_EQ(i.it[1].k0, 2u);
+    EXPECT_EQ(i.it[1].g1, 0u);
+    EXPECT_EQ(ui_g0status, 1u);
+}
+
+TEST_F(EfcTest, Ipv4PairAndCountedKeysShareItemsByHalves) {
+    ze_efc_rule_s r = rule((1u << 3) | (1u << 4) | (1u << 18) | (1u << 19));
+    r.dip = 0x0a000001;
+    r.dip_mask = 0xffffff00;
+    r.sip = 0xc0a80001;
+    r.sip_mask = 0xffff0000;
+    r.key18_19 = 0x1234;
+    r.key18_19_masknum = 5;
+    Items i = convert(r);
+    ASSERT_EQ(i.count, 2);
+    const ze_efc_item_s want0{16, 8, 4, 3, 0xc0a80001, 0x0a000001};
+    const ze_efc_item_s want1{5, 5, 17, 11, 0x1234, 0x1234};
+    EXPECT_EQ(std::memcmp(&i.it[0], &want0, sizeof want0), 0);
+    EXPECT_EQ(std::memcmp(&i.it[1], &want1, sizeof want1), 0);
+}
+
+TEST_F(EfcTest, RulesWithoutKeysGiveNoItems) {
+    for (uint32_t mask : {0u, 1u, 1u << 22, 1u << 23}) {
+        Items i = convert(rule(mask));
+        EXPECT_EQ(i.count, 0) << mask;
+    }
+}
+
+TEST_F(EfcTest, MaskCountCountsLowOnesAndStopsAtTheWordWidth) {
+    const uint32_t cases[][2] = {{0, 0}, {0xfe, 0}, {0xff, 8}, {0x7fffffff, 31}, {0xffffffff, 32}};
+    for (const auto &c : cases) {
+        uint32_t n = 99;
+        EXPECT_EQ(ze_lsw_efc_get_masknum(c[0], &n), 0u);
+        EXPECT_EQ(n, c[1]) << std::hex << c[0];
+    }
+    EXPECT_EQ(ze_lsw_efc_get_masknum(1, nullptr), 31u);
+}
+
+TEST_F(EfcTest, KeyPlacementRefusesAnIndexPastTheList) {
+    ze_efc_item_s items[ZE_EFC_ITEM_COUNT] = {};
+    uint8_t index = ZE_EFC_ITEM_COUNT;
+    EXPECT_EQ(ze_lsw_efc_get_value(&index, items, 1, 1, 1), 18u);
+    EXPECT_EQ(ze_lsw_efc_get_value(nullptr, items, 1, 1, 1), 31u);
+}
+
+TEST_F(EfcTest, DebugLinesOfAnIpv4Key) {
+    ze_efc_rule_s r = rule(1u << 3);
+    r.dip = 0x0a000001;
+    r.dip_mask = 0xffffffff;
+    convert(r);
+    EXPECT_EQ(debug_lines(), (std::vector<std::string>{
+                                 "ze_lsw_efc_get_masknum() entry ui_bitmask = 0\r\n",
+                                 "~~~dip = 0xa000001 \r\n", "~ui_dipmask = 0xffffffff \r\n",
+                                 "~ui_m0 = 0x0 \r\n"}));
+}
+
+// Free-run search: fids in use given as ranges, then the search.
+struct FidCase {
+    const char *name;
+    std::vector<std::pair<uint32_t, uint32_t>> used;
+    uint32_t first, count;
+    uint32_t result;
+    uint16_t fid;
+};
+
+TEST_F(EfcTest, FreeRunSearch) {
+    const FidCase cases[] = {
+        {"first free", {}, 1, 1, 0, 1},
+        {"skips used", {{1, 2}}, 1, 1, 0, 3},
+        {"run rejected at a group boundary is forgotten", {{0, 22}, {29, 255}}, 0, 3, 0, 26},
+        {"run inside a group", {{0, 22}}, 0, 2, 0, 23},
+        {"405 starts at 1", {}, 405, 1, 0, 1},
+        {"first cut to 8 bits", {}, 300, 1, 0, 44},
+        {"a run counted through the wrap is rejected", {{3, 254}}, 255, 2, 0, 1},
+        {"no room anywhere", {{0, 255}}, 0, 1, 16, 0xffff},
+        {"longer than a group", {}, 0, 26, 16, 0xffff},
+        {"first past 405", {}, 406, 1, 18, 0xffff},
+    };
+    for (const FidCase &c : cases) {
+        std::memset(st_efcservice, 0, sizeof st_efcservice);
+        for (auto [from, to] : c.used) occupy_fids(from, to);
+        uint16_t fid = 0xffff;
+        EXPECT_EQ(ze_lsw_efc_get_fid(c.first, c.count, &fid), c.result) << c.name;
+        EXPECT_EQ(fid, c.fid) << c.name;
+    }
+}
+
+// fid range: statuses and eofs of a group, then the start of the rule
+// ending at the fid.
+TEST_F(EfcTest, RuleRangeWalksBackToThePreviousRule) {
+    occupy_fids(50, 56);
+    occupy_fids(75, 79);
+    st_efcservice[52].eof = 1;
+    st_efcservice[56].eof = 1;
+    const uint32_t cases[][2] = {{52, 50}, {56, 53}, {50, 50}, {60, 60}, {57, 57}, {79, 75}};
+    for (const auto &c : cases) {
+        uint16_t start = 0;
+        EXPECT_EQ(ze_lsw_efc_get_fid_range(c[0], &start), 0u);
+        EXPECT_EQ(start, c[1]) << c[0];
+    }
+}
+
+TEST_F(EfcTest, InstallWritesOneBlockPerItemWithEofOnTheLast) {
+    ze_efc_rule_s r = rule((1u << 0) | (1u << 7) | (1u << 10) | (1u << 15));
+    r.n_base = 1;
+    r.igr_port = 2;
+    r.key7 = 0x0800;
+    r.key10 = 6;
+    r.key15 = 2;
+    ze_efc_action_s a = action((1u << 12) | (1u << 2));
+    a.egress_port = 5;
+    a.svlan = 200;
+    a.spri = 3;
+    a.ext = 0x11;
+    uint16_t fid = 0;
+    ASSERT_EQ(ze_lsw_flow_set_efc(1, &r, &a, 4, &fid), 0u);
+    EXPECT_EQ(fid, 2);
+    auto writes = entries_of(0x505);
+    ASSERT_EQ(writes.size(), 2u);
+    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0x505, 0x505}));
+    // offset -> value of the first and the second entry
+    const uint32_t expect[][3] = {
+        {0, 1, 2},      {4, 1, 2},       {8, 1, 1},     {12, 0, 1},      {16, 6, 7},
+        {20, 0x800, 2}, {24, 0, 0},      {28, 3, 3},    {32, 15, 0},     {36, 6, 0},
+        {40, 0, 0},     {44, 3, 3},      {48, 0x4, 0x4}, {84, 0, 0},     {96, 1, 1},
+        {100, 200, 200}, {112, 1, 1},    {116, 3, 3},   {120, 4, 4},     {124, 0x20, 0x20},
+        {152, 7, 7},    {156, 1, 1},     {164, 0x11, 0x11}, {196, 5, 5}, {200, 5, 5},
+    };
+    for (const auto &e : expect) {
+        EXPECT_EQ(word_at(writes[0].sent, e[0]), e[1]) << "first, offset " << e[0];
+        EXPECT_EQ(word_at(writes[1].sent, e[0]), e[2]) << "second, offset " << e[0];
+    }
+    EXPECT_EQ(st_efcservice[1].status, 1);
+    EXPECT_EQ(st_efcservice[1].eof, 0);
+    EXPECT_EQ(st_efcservice[2].eof, 1);
+}
+
+TEST_F(EfcTest, ActionGroupsKeepTheirHighestBit) {
+    struct Case {
+        uint32_t mask, fwd;
+        uint32_t offset, value;
+    };
+    const Case cases[] = {
+        {(1u << 15) | (1u << 17), 0, 88, 3}, {(1u << 0) | (1u << 1), 0, 84, 2},
+        {(1u << 7) | (1u << 11), 0, 104, 5}, {1u << 13, 0, 96, 2},
+        {0, 12, 120, 12},                    {0, 13, 120, 0},
+    };
+    for (const Case &c : cases) {
+        uint8_t block[216] = {};
+        ze_efc_action_s a = action(c.mask);
+        ASSERT_EQ(ze_lsw_efc_get_fact(&a, c.fwd, block + 84), 0u);
+        uint32_t v;
+        std::memcpy(&v, block + c.offset, 4);
+        EXPECT_EQ(v, c.value) << std::hex << c.mask << " fwd " << c.fwd;
+    }
+}
+
+TEST_F(EfcTest, RuleWithoutKeysTakesOneEntryOnAllPorts) {
+    ze_efc_rule_s r = rule(0);
+    ze_efc_action_s a = action();
+    uint16_t fid = 0;
+    ASSERT_EQ(ze_lsw_flow_set_efc(1, &r, &a, 13, &fid), 0u);
+    EXPECT_EQ(fid, 1);
+    auto w = entries_of(0x505);
+    ASSERT_EQ(w.size(), 1u);
+    EXPECT_EQ(word_at(w[0].sent, 48), 0x7fu);
+    EXPECT_EQ(word_at(w[0].sent, 12), 1u);
+    EXPECT_EQ(word_at(w[0].sent, 120), 0u);
+}
+
+TEST_F(EfcTest, InstallFailuresFreeTheItemList) {
+    ze_efc_rule_s r = rule(1u << 7);
+    ze_efc_action_s a = action();
+    uint16_t fid = 0xffff;
+    ze_host_malloc_fail_at(0);
+    EXPECT_EQ(ze_lsw_flow_set_efc(1, &r, &a, 0, &fid), 27u);
+    EXPECT_TRUE(zesim::commands().empty());
+    zesim::fail(0x505, 0xf0000101);
+    EXPECT_EQ(ze_lsw_flow_set_efc(1, &r, &a, 0, &fid), 18u);
+    zesim::clear_faults();
+    occupy_fids(0, 255);
+    EXPECT_EQ(ze_lsw_flow_set_efc(1, &r, &a, 0, &fid), 0xffffffffu);
+    EXPECT_EQ(ze_lsw_flow_set_efc(1, &r, nullptr, 0, &fid), 0xffffffffu);
+    EXPECT_EQ(fid, 0xffff);
+    EXPECT_EQ(ze_lsw_flow_set_efc(1, nullptr, &a, 0, &fid), 31u);
+}
+
+TEST_F(EfcTest, DeleteRemovesTheWholeRuleFromItsGroupStart) {
+    ze_efc_rule_s r = rule((1u << 7) | (1u << 8) | (1u << 9) | (1u << 10) | (1u << 11));
+    ze_efc_action_s a = action();
+    uint16_t fid = 0;
+    ASSERT_EQ(ze_lsw_flow_set_efc(50, &r, &a, 0, &fid), 0u);
+    ASSERT_EQ(fid, 52);
+    ASSERT_EQ(ze_lsw_flow_save_service(&r, &a, 0, fid), 0u);
+    zesim::clear_log();
+    EXPECT_EQ(ze_lsw_flow_delete_efc(51), 14u);  // not the rule's last entry
+    EXPECT_TRUE(zesim::commands().empty());
+    ASSERT_EQ(ze_lsw_flow_delete_efc(52), 0u);
+    auto w = entries_of(0x505);
+    ASSERT_EQ(w.size(), 3u);
+    for (uint32_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(word_at(w[i].sent, 0), 50 + i);
+        EXPECT_EQ(word_at(w[i].sent, 4), 50 + i);
+        EXPECT_EQ(word_at(w[i].sent, 8), 0u);
+        EXPECT_EQ(word_at(w[i].sent, 28), 2u);
+        EXPECT_EQ(word_at(w[i].sent, 44), 2u);
+        EXPECT_EQ(st_efcservice[50 + i].status, 0);
+    }
+    EXPECT_EQ(ze_lsw_flow_delete_efc(405), 0xffffffffu);
+}
+
+TEST_F(EfcTest, DeleteAllWritesEveryEntryInUseAndClearsTheShadow) {
+    occupy_fids(3, 4);
+    st_efcservice[4].eof = 1;
+    st_efcservice[300].status = 1;
+    ASSERT_EQ(ze_lsw_flow_efc_delete_all(0, 0, 0, 0), 0u);
+    auto w = entries_of(0x505);
+    ASSERT_EQ(w.size(), 3u);
+    EXPECT_EQ(word_at(w[2].sent, 0), 300u);
+    EXPECT_EQ(std::count(reinterpret_cast<uint8_t *>(st_efcservice),
+                         reinterpret_cast<uint8_t *>(st_efcservice) + sizeof st_efcservice, 0),
+              static_cast<long>(sizeof st_efcservice));
+}
+
+TEST_F(EfcTest, DeleteAllStopsAtAFailedWriteAndKeepsTheShadow) {
+    occupy_fids(3, 4);
+    zesim::fail(0x505, 0x77, 2);
+    EXPECT_EQ(ze_lsw_flow_efc_delete_all(0, 0, 0, 0), 0xffffffffu);
+    EXPECT_EQ(st_efcservice[3].status, 1);
+}
+
+TEST_F(EfcTest, ServiceShadowSearchAndRanges) {
+    ze_efc_rule_s r = rule(1u << 7);
+    ze_efc_action_s a = action(4);
+    uint16_t fid = 0;
+    EXPECT_EQ(ze_lsw_flow_save_service(&r, &a, 2, 405), 18u);
+    EXPECT_EQ(ze_lsw_flow_save_service(nullptr, &a, 2, 7), 31u);
+    ASSERT_EQ(ze_lsw_flow_save_service(&r, &a, 2, 7), 0u);
+    EXPECT_EQ(ze_lsw_flow_get_service_func(&r, &a, 2, &fid), 0u);
+    EXPECT_EQ(fid, 7);
+    EXPECT_EQ(ze_lsw_flow_get_service_func(&r, &a, 3, &fid), 14u);
+    EXPECT_EQ(ze_lsw_flow_delete_service(405), 18u);
+    EXPECT_EQ(ze_lsw_efc_get_status(405, nullptr, nullptr), 18u);
+    EXPECT_EQ(ze_lsw_efc_set_status(405, 1, 1), 18u);
+}
+
+}  // namespace

@@ -1,0 +1,68 @@
+// Fixture of the flow classifier suites: besides a fresh simulator, empty
+// shadow tables and half-item flag, and helpers that build records.
+#pragma once
+
+#include <cstring>
+#include <string>
+
+#include "test_support.h"
+#include "ze_host.h"
+#include "ze_lsw_flow.h"
+#include "ze_lsw_flow_shadow.h"
+
+namespace zetest {
+
+inline ze_sfc_mapping_s vlan_mapping(uint16_t vlan, uint32_t mask = ZE_SFC_KEY_VLAN) {
+    ze_sfc_mapping_s m;
+    std::memset(&m, 0, sizeof m);
+    m.key_mask = mask;
+    m.vlan = vlan;
+    return m;
+}
+inline ze_efc_rule_s rule(uint32_t mask) {
+    ze_efc_rule_s r;
+    std::memset(&r, 0, sizeof r);
+    r.key_mask = mask;
+    return r;
+}
+inline ze_efc_action_s action(uint32_t mask = 0) {
+    ze_efc_action_s a;
+    std::memset(&a, 0, sizeof a);
+    a.act_mask = mask;
+    return a;
+}
+// Marks fids [from, to] in use (single-entry rules' eof left 0).
+inline void occupy_fids(uint32_t from, uint32_t to) {
+    for (uint32_t f = from; f <= to; ++f) st_efcservice[f].status = 1;
+}
+
+class FlowTest : public SimTest {
+protected:
+    void SetUp() override {
+        SimTest::SetUp();
+        std::memset(st_sfcmapping, 0, sizeof st_sfcmapping);
+        std::memset(st_efcservice, 0, sizeof st_efcservice);
+        ui_g0status = 0;
+        heap_at_start_ = ze_host_heap_outstanding();
+    }
+    void TearDown() override {
+        EXPECT_EQ(ze_host_heap_outstanding(), heap_at_start_) << "heap not balanced";
+        ze_host_malloc_fail_at(-1);
+        SimTest::TearDown();
+    }
+
+    // The last trace record of a function.
+    bool last_trace_of(const std::string &func, ze_host_trace_rec &out) const {
+        bool found = false;
+        for (const ze_host_trace_rec &t : traces())
+            if (func == t.func) {
+                out = t;
+                found = true;
+            }
+        return found;
+    }
+
+    int64_t heap_at_start_ = 0;
+};
+
+}  // namespace zetest

@@ -1,0 +1,164 @@
+// Services and mappings: round trips, direction normalisation, the order
+// of removals, and inner results coming back as 0xffffffff.
+#include "flow_fixture.h"
+#include "ze_gmac.h"
+
+namespace {
+
+using zetest::action;
+using zetest::entries_of;
+using zetest::rule;
+using zetest::vlan_mapping;
+using zetest::word_at;
+using FlowServiceTest = zetest::FlowTest;
+
+ze_efc_rule_s ip_rule(uint32_t dip) {
+    ze_efc_rule_s r = rule(1u << 3);
+    r.dip = dip;
+    r.dip_mask = 0xffffffff;
+    return r;
+}
+
+TEST_F(FlowServiceTest, ServiceRoundTrip) {
+    ze_efc_rule_s r = ip_rule(0x0a000001);
+    ze_efc_action_s a = action(1u << 2);
+    a.spri = 5;
+    uint16_t fid = 0, found = 0;
+    ASSERT_EQ(ze_lsw_flow_add_service(&r, &a, 2, &fid), 0u);
+    EXPECT_EQ(fid, 1);  // services are searched from fid 1
+    ASSERT_EQ(ze_lsw_flow_get_service(&r, &a, 2, &found), 0u);
+    EXPECT_EQ(found, fid);
+    ASSERT_EQ(ze_lsw_flow_del_service(&r, &a, 2), 0u);
+    EXPECT_EQ(ze_lsw_flow_get_service(&r, &a, 2, &found), 14u);
+    EXPECT_EQ(ze_lsw_flow_del_service(&r, &a, 2), 0xffffffffu);
+    EXPECT_EQ(ze_lsw_flow_del_fid(fid), 0xffffffffu);
+    EXPECT_EQ(ze_lsw_flow_add_service(nullptr, &a, 2, &fid), 31u);
+}
+
+TEST_F(FlowServiceTest, ServiceWithoutFidPointerIsStillSaved) {
+    ze_efc_rule_s r = ip_rule(0x0a000002);
+    ze_efc_action_s a = action();
+    ASSERT_EQ(ze_lsw_flow_add_service(&r, &a, 0, nullptr), 0u);
+    EXPECT_EQ(st_efcservice[1].status, 1);
+    EXPECT_EQ(st_efcservice[1].rule.dip, 0x0a000002u);
+}
+
+// Normalisation: the record as the caller gives it, the direction, and the
+// key mask and ingress bitmap that are installed and saved.
+TEST_F(FlowServiceTest, MappingDirectionNormalisation) {
+    struct Case {
+        uint32_t mask;
+        uint8_t igr;
+        uint32_t dir;
+        uint32_t want_mask;
+        uint8_t want_igr;
+    };
+    const Case cases[] = {
+        {ZE_SFC_KEY_VLAN, 0x00, 0, 0x3, 0x1f},
+        {ZE_SFC_KEY_VLAN | ZE_SFC_KEY_IGR, 0x04, 0, 0x3, 0x04},
+        {ZE_SFC_KEY_VLAN, 0x07, 1, 0x3, 0x20},
+        {ZE_SFC_KEY_VLAN, 0x07, 2, 0x2, 0x07},
+    };
+    for (const Case &c : cases) {
+        std::memset(st_sfcmapping, 0, sizeof st_sfcmapping);
+        ze_sfc_mapping_s m = vlan_mapping(100, c.mask);
+        m.igr = c.igr;
+        uint16_t sfid = 0xffff;
+        ASSERT_EQ(ze_lsw_flow_add_mapping(&m, c.dir, &sfid), 0u);
+        EXPECT_EQ(sfid, 0);
+        EXPECT_EQ(m.key_mask, c.want_mask) << c.dir;
+        EXPECT_EQ(m.igr, c.want_igr) << c.dir;
+        EXPECT_EQ(std::memcmp(&st_sfcmapping[0].mapping, &m, sizeof m), 0);
+    }
+}
+
+TEST_F(FlowServiceTest, DownstreamDeleteFindsTheMappingWhateverTheBitmap) {
+    ze_sfc_mapping_s add = vlan_mapping(200);
+    add.igr = 0x03;
+    uint16_t sfid = 0;
+    ASSERT_EQ(ze_lsw_flow_add_mapping(&add, 1, &sfid), 0u);
+    ze_sfc_mapping_s del = vlan_mapping(200);
+    del.igr = 0x1c;
+    ASSERT_EQ(ze_lsw_flow_del_mapping(&del, 1), 0u);
+    EXPECT_EQ(st_sfcmapping[sfid].status, 0);
+    EXPECT_EQ(ze_lsw_flow_del_mapping(&del, 1), 0xffffffffu);  // the search's 14, remapped
+}
+
+TEST_F(FlowServiceTest, DeleteBySfidRemovesTheGemPortFirst) {
+    ze_sfc_mapping_s m = vlan_mapping(300);
+    uint16_t sfid = 0;
+    ASSERT_EQ(ze_lsw_flow_add_mapping(&m, 0, &sfid), 0u);
+    ASSERT_EQ(ze_gmac_set_gemport(sfid, 1, 1100), 0u);
+    zesim::clear_log();
+    ASSERT_EQ(ze_lsw_flow_del_mapping_by_sfid(sfid), 0u);
+    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xb04, 0xb05, 0x202, 0x203, 0x507}));
+    EXPECT_EQ(st_sfcmapping[sfid].status, 0);
+    EXPECT_EQ(ze_lsw_flow_del_mapping_by_sfid(sfid), 0xffffffffu);
+}
+
+TEST_F(FlowServiceTest, DeleteAllRemovesServicesBeforeMappings) {
+    ze_efc_rule_s r = ip_rule(0x0a000003);
+    ze_efc_action_s a = action();
+    ze_sfc_mapping_s m = vlan_mapping(400);
+    uint16_t id = 0;
+    ASSERT_EQ(ze_lsw_flow_add_mapping(&m, 0, &id), 0u);
+    ASSERT_EQ(ze_lsw_flow_add_service(&r, &a, 0, &id), 0u);
+    zesim::clear_log();
+    ASSERT_EQ(ze_lsw_flow_del_all(0, 0, 0, 0), 0u);
+    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0x505, 0xb04, 0x507}));
+    EXPECT_EQ(st_efcservice[1].status, 0);
+    EXPECT_EQ(st_sfcmapping[0].status, 0);
+    // The install's 18 is remapped like any inner result.
+    zesim::fail(0x505, 0xf0000101);
+    EXPECT_EQ(ze_lsw_flow_add_service(&r, &a, 0, &id), 0xffffffffu);
+}
+
+TEST_F(FlowServiceTest, IgmpPriorityService) {
+    ASSERT_EQ(ze_lsw_flow_change_igmp_pri(6), 0u);
+    auto w = entries_of(0x505);
+    ASSERT_EQ(w.size(), 1u);
+    EXPECT_EQ(word_at(w[0].sent, 16), 7u);     // g0: key type 7
+    EXPECT_EQ(word_at(w[0].sent, 20), 2u);     // k0
+    EXPECT_EQ(word_at(w[0].sent, 48), 0x7fu);  // every port: bit 0 of the mask is clear
+    EXPECT_EQ(word_at(w[0].sent, 112), 1u);    // spriact
+    EXPECT_EQ(word_at(w[0].sent, 116), 6u);    // spvalue
+    EXPECT_EQ(word_at(w[0].sent, 120), 2u);    // act
+    EXPECT_EQ(st_efcservice[1].rule.igr_port, 5);
+}
+
+TEST_F(FlowServiceTest, DiagnoseSelectorTwoPrintsNothing) {
+    EXPECT_EQ(ze_lsw_flow_diagnose(2, 0, 0, 0), 0u);
+    EXPECT_EQ(console(), "");
+    zesim::fail(0x504, 0x1);
+    st_efcservice[3].status = 1;
+    EXPECT_EQ(ze_lsw_flow_diagnose(0, 0, 0, 0), 0u);
+}
+
+TEST_F(FlowServiceTest, ServiceAndMappingCommands) {
+    uint8_t svc[108] = {};
+    ze_efc_rule_s r = ip_rule(0x0a000004);
+    std::memcpy(svc, &r, sizeof r);
+    uint32_t reply = 0;
+    ASSERT_EQ(call("ze_adapter_cli_flow_add_service", svc, 108, &reply), 0u);
+    EXPECT_EQ(reply, 108u);
+    EXPECT_EQ(svc[104], 1);
+    reply = 0;
+    EXPECT_EQ(call("ze_adapter_cli_flow_del_service", svc, 108, &reply), 0u);
+    EXPECT_EQ(reply, 108u);
+    EXPECT_EQ(call("ze_adapter_cli_flow_del_service", svc, 108, &reply), 0xffffffffu);
+
+    uint8_t map[24] = {};
+    ze_sfc_mapping_s m = vlan_mapping(500);
+    std::memcpy(map, &m, sizeof m);
+    ASSERT_EQ(call("ze_adapter_cli_flow_add_mapping", map, 24, &reply), 0u);
+    EXPECT_EQ(reply, 24u);
+    EXPECT_EQ(map[8], 0x1f);  // the record comes back normalised
+    // Deleting with the replied record finds it.
+    EXPECT_EQ(call("ze_adapter_cli_flow_del_mapping", map, 20, &reply), 0u);
+    EXPECT_EQ(call("ze_adapter_cli_flow_del_mapping", map, 21, &reply), 18u);
+    EXPECT_EQ(call("ze_adapter_cli_flow_set_mapping_value_select", nullptr, 3, &reply), 0u);
+    EXPECT_EQ(call("ze_adapter_cli_flow_get_mapping_value_select", map, 8, &reply), 0u);
+    EXPECT_EQ(call("ze_adapter_cli_flow_del_all", nullptr, 0, nullptr), 0u);
+}
+
+}  // namespace

@@ -1,0 +1,127 @@
+// GPON MAC: GEM mappings with their attribute block and shadow record,
+// downstream type, AES, FEC, and the commands over them.
+#include "flow_fixture.h"
+#include "ze_gmac.h"
+
+namespace {
+
+using zetest::entries_of;
+using zetest::word_at;
+using GmacTest = zetest::FlowTest;
+
+TEST_F(GmacTest, NeverWrittenMappingIsEmpty) {
+    uint8_t tcont = 0;
+    uint16_t gem = 0;
+    ASSERT_EQ(ze_gmac_get_gemport(17, &tcont, &gem), 0u);
+    EXPECT_EQ(tcont, 8);
+    EXPECT_EQ(gem, 4096);
+    EXPECT_EQ(ze_gmac_get_gemport(17, nullptr, &gem), 31u);
+}
+
+TEST_F(GmacTest, SetMapsBringsThePortUpAndRecordsTheShadow) {
+    zesim::set_word(0x202, 12, 1, {1001});  // AES already on
+    ASSERT_EQ(ze_gmac_set_gemport(4, 2, 1001), 0u);
+    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xb05, 0x202, 0x203}));
+    const zesim::Bytes map = entries_of(0xb05)[0].sent;
+    EXPECT_EQ(word_at(map, 0), 4u);
+    EXPECT_EQ(word_at(map, 4), 1001u);
+    EXPECT_EQ(word_at(map, 8), 2u);
+    const zesim::Bytes attr = entries_of(0x203)[0].sent;
+    EXPECT_EQ(word_at(attr, 0), 1001u);
+    EXPECT_EQ(word_at(attr, 8), 2u);
+    EXPECT_EQ(word_at(attr, 12), 1u);
+    EXPECT_EQ(word_at(attr, 16), 1u);
+    EXPECT_EQ(st_sfcmapping[4].status, 1);
+    EXPECT_EQ(st_sfcmapping[4].tcont, 2);
+    EXPECT_EQ(st_sfcmapping[4].gemport, 1001);
+}
+
+TEST_F(GmacTest, SetStopsAtTheFirstFailureAndKeepsEarlierSteps) {
+    zesim::fail(0x203, 0xf0000101);
+    EXPECT_EQ(ze_gmac_set_gemport(4, 2, 1001), 18u);
+    EXPECT_EQ(zesim::word(0xb04, 4, {4}), 1001u);
+    EXPECT_EQ(st_sfcmapping[4].status, 0);
+    zesim::clear_faults();
+    EXPECT_EQ(ze_gmac_set_gemport(200, 2, 1001), 0xffffffffu);  // the shadow refuses 200
+}
+
+TEST_F(GmacTest, DeleteOfAnEmptyMappingSendsNoSet) {
+    ASSERT_EQ(ze_gmac_del_gemport(9), 0u);
+    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xb04}));
+    EXPECT_EQ(st_sfcmapping[9].status, 0);
+}
+
+TEST_F(GmacTest, DeleteEmptiesTheMappingAndInvalidatesThePort) {
+    ASSERT_EQ(ze_gmac_set_gemport(4, 2, 1001), 0u);
+    zesim::clear_log();
+    ASSERT_EQ(ze_gmac_del_gemport(4), 0u);
+    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xb04, 0xb05, 0x202, 0x203}));
+    EXPECT_EQ(zesim::word(0xb04, 4, {4}), 4096u);
+    EXPECT_EQ(zesim::word(0xb04, 8, {4}), 8u);
+    EXPECT_EQ(zesim::word(0x202, 16, {1001}), 0u);
+    EXPECT_EQ(st_sfcmapping[4].status, 1);  // in use, without a GEM port
+    EXPECT_EQ(st_sfcmapping[4].tcont, 8);
+    EXPECT_EQ(st_sfcmapping[4].gemport, 4096);
+}
+
+TEST_F(GmacTest, DownstreamTypeSetOverwritesTheWholeBlock) {
+    zesim::set_word(0x202, 12, 1, {300});
+    ASSERT_EQ(ze_gmac_set_down_gemport_type(300, 5), 0u);
+    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0x203}));
+    uint32_t type = 0;
+    uint8_t aes = 9;
+    ASSERT_EQ(ze_gmac_get_down_gemport_type(300, &type), 0u);
+    ASSERT_EQ(ze_gmac_get_aes(300, &aes), 0u);
+    EXPECT_EQ(type, 5u);
+    EXPECT_EQ(aes, 0);
+    EXPECT_EQ(zesim::word(0x202, 16, {300}), 1u);
+    ASSERT_EQ(ze_gmac_del_down_gemport(300), 0u);
+    EXPECT_EQ(zesim::word(0x202, 16, {300}), 0u);
+    EXPECT_EQ(zesim::word(0x202, 8, {300}), 5u);
+}
+
+TEST_F(GmacTest, AesRoundTripAndDriverCodes) {
+    ASSERT_EQ(ze_gmac_set_aes(12, 1), 0u);
+    uint8_t aes = 0;
+    ASSERT_EQ(ze_gmac_get_aes(12, &aes), 0u);
+    EXPECT_EQ(aes, 1);
+    zesim::fail(0x202, 0xf0000101);
+    EXPECT_EQ(ze_gmac_set_aes(12, 0), 18u);
+    zesim::clear_faults();
+    zesim::fail(0x202, 0x5);
+    EXPECT_EQ(ze_gmac_get_aes(12, &aes), 0xffffffffu);
+    EXPECT_EQ(ze_gmac_get_aes(12, nullptr), 31u);
+}
+
+TEST_F(GmacTest, FecIsReadBySelector) {
+    zesim::set_word(0x208, 4, 1);
+    zesim::set_word(0x20a, 8, 0);
+    const uint32_t cases[][3] = {{1, 0x208, 1}, {5, 0x208, 1}, {0, 0x20a, 0}};
+    for (const auto &c : cases) {
+        zesim::clear_log();
+        uint8_t fec = 7;
+        ASSERT_EQ(ze_gmac_get_fec(c[0], &fec), 0u);
+        EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{c[1]}));
+        EXPECT_EQ(fec, c[2]);
+    }
+    zesim::clear_log();
+    EXPECT_EQ(ze_gmac_set_fec(), 0u);
+    EXPECT_TRUE(zesim::commands().empty());
+}
+
+TEST_F(GmacTest, CommandsPackTheirReplies) {
+    uint8_t set[8] = {4, 0, 2, 0, 0xe9, 0x03, 0, 0};  // index 4, T-CONT 2, GEM port 1001
+    uint32_t reply = 0;
+    ASSERT_EQ(call("ze_adapter_cli_gmac_set_gemport", set, 8, &reply), 0u);
+    EXPECT_EQ(reply, 0u);
+    uint8_t get[8] = {4, 0, 0, 0, 0, 0, 0, 0};
+    ASSERT_EQ(call("ze_adapter_cli_gmac_get_gemport", get, 8, &reply), 0u);
+    EXPECT_EQ(reply, 8u);
+    EXPECT_EQ(get[2], 2);
+    EXPECT_EQ(get[4] | get[5] << 8, 1001);
+    EXPECT_EQ(call("ze_adapter_cli_gmac_del_gemport", get, 3, &reply), 18u);
+    EXPECT_NE(console().find("[ERROR INPUT NULL PTR ../adapter_cli/ze_adatper_cli_gmac.cpp"),
+              std::string::npos);
+}
+
+}  // namespace

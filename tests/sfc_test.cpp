@@ -1,0 +1,196 @@
+// Simple flow classifier: install blocks, sfid allocation, deletes, the
+// partial table clear, and the shadow searches.
+#include "flow_fixture.h"
+#include "ze_blocks_sfc.h"
+#include "ze_gmac.h"
+
+namespace {
+
+using zetest::entries_of;
+using zetest::word_at;
+using SfcTest = zetest::FlowTest;
+using zetest::vlan_mapping;
+
+// Installs `n` VLAN mappings 100, 101, ... and saves them as the add does.
+void install_vlans(uint32_t n) {
+    for (uint32_t i = 0; i < n; ++i) {
+        ze_sfc_mapping_s m = vlan_mapping(static_cast<uint16_t>(100 + i));
+        uint16_t sfid = 0;
+        ASSERT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0u);
+        ASSERT_EQ(ze_lsw_flow_save_mapping(sfid, &m), 0u);
+    }
+}
+
+TEST_F(SfcTest, InstallWritesEveryKeyOfTheMaskWithoutReadingFirst) {
+    ze_sfc_mapping_s m = vlan_mapping(300, 0x1f);
+    m.match_mode = 7;  // each key's mode: 7 / 5 = 1
+    m.igr = 0x21;
+    m.fid = 9;
+    m.pri = 5;
+    m.fifth = 0x4242;
+    uint16_t sfid = 0xffff;
+    ASSERT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0u);
+    EXPECT_EQ(sfid, 0);
+    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0x507}));
+    const zesim::Bytes b = entries_of(0x507)[0].sent;
+    const uint32_t expect[][2] = {{0, 0},  {4, 1},   {8, 1},  {12, 1},  {16, 9},  {20, 1},
+                                  {24, 1}, {28, 300}, {32, 1}, {36, 1},  {40, 5},  {44, 0x21},
+                                  {48, 1}, {52, 1},  {56, 0x4242}, {60, 0}, {64, 0}};
+    for (const auto &e : expect) EXPECT_EQ(word_at(b, e[0]), e[1]) << "offset " << e[0];
+    EXPECT_EQ(st_sfcmapping[0].status, 1);
+}
+
+TEST_F(SfcTest, KeysWhoseBitIsClearStayZero) {
+    ze_sfc_mapping_s m = vlan_mapping(300, ZE_SFC_KEY_VLAN);
+    m.igr = 0x1f;
+    m.pri = 5;
+    ASSERT_EQ(ze_lsw_flow_set_sfc(&m, nullptr), 0u);
+    const zesim::Bytes b = entries_of(0x507)[0].sent;
+    EXPECT_EQ(word_at(b, 44), 0u);  // igr
+    EXPECT_EQ(word_at(b, 32), 0u);  // pri_vld
+    EXPECT_EQ(word_at(b, 40), 0u);  // pri
+}
+
+TEST_F(SfcTest, DeletedSfidIsReusedLowestFirst) {
+    install_vlans(6);
+    ASSERT_EQ(ze_lsw_flow_delete_sfc(3), 0u);
+    const zesim::Bytes del = entries_of(0x507).back().sent;
+    EXPECT_EQ(word_at(del, 0), 3u);
+    EXPECT_EQ(word_at(del, 4), 0u);
+    EXPECT_EQ(word_at(del, 8), 0u);
+    ze_sfc_mapping_s m = vlan_mapping(999);
+    uint16_t sfid = 0;
+    ASSERT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0u);
+    EXPECT_EQ(sfid, 3);
+}
+
+TEST_F(SfcTest, FullTableWritesNothing) {
+    install_vlans(128);
+    zesim::clear_log();
+    ze_sfc_mapping_s m = vlan_mapping(7);
+    uint16_t sfid = 0xabcd;
+    EXPECT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0xffffffffu);
+    EXPECT_EQ(sfid, 0xabcd);
+    EXPECT_TRUE(zesim::commands().empty());
+}
+
+TEST_F(SfcTest, DeleteOfFreeOrOutOfRangeSfid) {
+    EXPECT_EQ(ze_lsw_flow_delete_sfc(5), 14u);
+    ze_host_trace_rec t;
+    ASSERT_TRUE(last_trace_of("ze_lsw_flow_delete_sfc", t));
+    EXPECT_EQ(t.result, 18u);
+    EXPECT_EQ(ze_lsw_flow_delete_sfc(200), 18u);
+    EXPECT_TRUE(zesim::commands().empty());
+}
+
+TEST_F(SfcTest, FailedDeleteWriteKeepsTheShadow) {
+    install_vlans(1);
+    zesim::fail(0x507, 0xf0000101);
+    EXPECT_EQ(ze_lsw_flow_delete_sfc(0), 18u);
+    EXPECT_EQ(st_sfcmapping[0].status, 1);
+}
+
+TEST_F(SfcTest, DeleteAllClearsOnlyTheFirst2560BytesOfTheShadow) {
+    for (uint32_t s = 0; s < 128; ++s) ASSERT_EQ(ze_gmac_set_gemport(s, 1, 1000 + s), 0u);
+    for (uint32_t s = 0; s < 128; ++s) st_sfcmapping[s].mapping.fifth = 0x5555;
+    zesim::clear_log();
+    ASSERT_EQ(ze_lsw_flow_sfc_delete_all(), 0u);
+    EXPECT_EQ(entries_of(0x507).size(), 128u);
+    EXPECT_EQ(entries_of(0xb05).size(), 128u);  // every GEM port removed first
+    EXPECT_EQ(st_sfcmapping[105].status, 0);
+    EXPECT_EQ(st_sfcmapping[106].status, 0);
+    EXPECT_EQ(st_sfcmapping[106].mapping.fifth, 0x5555);  // the tail of entry 106 survives
+    for (uint32_t s = 107; s < 128; ++s) {
+        EXPECT_EQ(st_sfcmapping[s].status, 1) << s;
+        EXPECT_EQ(st_sfcmapping[s].gemport, 4096) << s;
+    }
+}
+
+TEST_F(SfcTest, DeleteAllStopsAtTheFirstGemPortFailure) {
+    install_vlans(3);
+    zesim::fail(0xb04, 0x1234, 2);
+    EXPECT_EQ(ze_lsw_flow_sfc_delete_all(), 0xffffffffu);
+    EXPECT_EQ(entries_of(0x507).size(), 3u + 1u);  // three installs, sfid 0 removed
+    EXPECT_EQ(st_sfcmapping[1].status, 1);
+}
+
+TEST_F(SfcTest, GemPortSearchesFollowDirectionAndStart) {
+    ze_sfc_shadow_s rows[] = {
+        {1, 0, 77, {}}, {1, 0, 77, {}}, {1, 0, 88, {}}, {0, 0, 77, {}},
+    };
+    rows[0].mapping.igr = 0x20;  // downstream
+    rows[1].mapping.igr = 0x02;  // upstream
+    rows[2].mapping.igr = 0x02;
+    rows[3].mapping.igr = 0x02;  // free
+    std::memcpy(st_sfcmapping, rows, sizeof rows);
+
+    uint16_t sfid = 0xffff;
+    EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(77, 0, 0, &sfid), 0u);
+    EXPECT_EQ(sfid, 1);
+    EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(77, 1, 0, &sfid), 0u);
+    EXPECT_EQ(sfid, 0);
+    EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(77, 1, 1, &sfid), 18u);
+    EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(77, 2, 0, &sfid), 18u);
+    EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(77, 0, 128, &sfid), 18u);
+    EXPECT_EQ(ze_lsw_flow_get_sfid(88, &sfid), 0u);
+    EXPECT_EQ(sfid, 2);
+    EXPECT_EQ(ze_lsw_flow_get_sfid(99, &sfid), 18u);
+
+    uint16_t count = 0xffff;
+    EXPECT_EQ(ze_lsw_flow_get_sfc_item_count(77, 0, &count), 0u);
+    EXPECT_EQ(count, 1);
+    count = 0xffff;
+    EXPECT_EQ(ze_lsw_flow_get_sfc_item_count(77, 2, &count), 0u);
+    EXPECT_EQ(count, 0xffff);
+}
+
+TEST_F(SfcTest, SearchByRecordComparesEveryByte) {
+    install_vlans(2);
+    ze_sfc_mapping_s m = vlan_mapping(101);
+    uint16_t sfid = 0;
+    EXPECT_EQ(ze_lsw_flow_get_sfid_bymapping(&m, &sfid), 0u);
+    EXPECT_EQ(sfid, 1);
+    m.pad[1] = 1;
+    EXPECT_EQ(ze_lsw_flow_get_sfid_bymapping(&m, &sfid), 14u);
+    ze_host_trace_rec t;
+    ASSERT_TRUE(last_trace_of("ze_lsw_flow_get_sfid_bymapping", t));
+    EXPECT_EQ(t.result, 18u);
+}
+
+TEST_F(SfcTest, GemmapByVlanTracesNothing) {
+    install_vlans(2);
+    st_sfcmapping[1].gemport = 1234;
+    st_sfcmapping[1].tcont = 3;
+    uint16_t gem = 0, tcont = 0;
+    ze_sfc_mapping_s m;
+    EXPECT_EQ(ze_lsw_flow_get_gemmap_by_vlan(101, &gem, &tcont, &m), 0u);
+    EXPECT_EQ(gem, 1234);
+    EXPECT_EQ(tcont, 3);
+    EXPECT_EQ(m.vlan, 101);
+    EXPECT_EQ(ze_lsw_flow_get_gemmap_by_vlan(555, &gem, &tcont, &m), 0xffffffffu);
+    EXPECT_EQ(ze_lsw_flow_get_gemmap_by_vlan(101, nullptr, &tcont, &m), 0xffffffffu);
+    EXPECT_TRUE(traces().empty() || std::string(traces().back().func) != "ze_lsw_flow_get_gemmap_by_vlan");
+}
+
+TEST_F(SfcTest, ShadowAccessorsRejectOutOfRangeSfids) {
+    ze_sfc_shadow_s e;
+    EXPECT_EQ(ze_lsw_sfc_get_status(128, nullptr), 18u);
+    EXPECT_EQ(ze_lsw_sfc_set_status(128, 1), 18u);
+    EXPECT_EQ(ze_lsw_flow_save_gemmap(128, 1, 1), 18u);
+    EXPECT_EQ(ze_lsw_sfc_get_gemmapping(128, &e), 18u);
+    EXPECT_EQ(ze_lsw_sfc_delete_gemmapping(128), 18u);
+    EXPECT_EQ(ze_lsw_flow_save_mapping(127, nullptr), 31u);
+    EXPECT_EQ(ze_lsw_sfc_get_status(127, nullptr), 0u);
+}
+
+TEST_F(SfcTest, PrintedFormListsEntriesInUse) {
+    ze_lsw_flow_save_gemmap(2, 1, 1002);
+    ze_lsw_flow_save_gemmap(9, 8, 4096);
+    ASSERT_EQ(ze_lsw_flow_sfc_printf_info(), 0u);
+    EXPECT_EQ(console(),
+              "sfid    TCONT      GEMPORT\r\n"
+              "2       1          1002        \r\n"
+              "9       8          4096        \r\n");
+}
+
+}  // namespace
