@@ -9,6 +9,8 @@ const Area *const kAreas[] = {
     &kPortArea,
     &kQosArea,
     &kCarArea,
+    &kFlowArea,
+    &kGmacArea,
 };
 }  // namespace
 
