@@ -5,6 +5,7 @@
 
 #include "ze_blocks_qos.h"
 #include "ze_dp_block.h"
+#include "ze_lsw_flow.h"
 
 namespace {
 
@@ -66,6 +67,21 @@ uint32_t ze_lsw_qos_set_in_pri(uint32_t flow, uint32_t priority) {
         ze::dp_write(b);
     }
     return ze::traced(ZE_SITE, r);
+}
+
+// Walks the flows the library installed (its SFC shadow). A failure of any
+// step is folded like a driver code, so it comes back as 0xffffffff.
+uint32_t ze_lsw_qos_set_gemport_pri(uint32_t gemport, uint32_t /*unused*/, uint32_t priority) {
+    for (uint32_t flow = 0; flow < ZE_SFC_ENTRY_COUNT; ++flow) {
+        uint8_t status = 0;
+        ze_sfc_shadow_s entry;
+        uint32_t r = ze_lsw_sfc_get_status(flow, &status);
+        if (r == 0) r = ze_lsw_sfc_get_gemmapping(flow, &entry);
+        if (r == 0 && status == 1 && entry.gemport == gemport)
+            r = ze_lsw_qos_set_in_pri(flow, priority);
+        if (r) return ze::traced(ZE_SITE, ze::map_err(r));
+    }
+    return ze::traced(ZE_SITE, ZE_OK);
 }
 
 uint32_t ze_lsw_qos_get_gemport_pri(void) { return ze::traced(ZE_SITE, ZE_OK); }
