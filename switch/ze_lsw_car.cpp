@@ -56,6 +56,16 @@ uint32_t protocol_field(uint32_t base, uint32_t sub) {
     return base + 4 * sub;
 }
 
+// Reads one sub-entry word of a protocol entry, traced under `site`.
+uint32_t read_protocol_word(const ze::TraceSite &site, uint32_t entry, uint32_t base, uint32_t sub,
+                            uint32_t *value) {
+    uint32_t off = protocol_field(base, sub);
+    if (!off) return ze::traced(site, ZE_ERR_PARAM);
+    ze::Block<ProtocolPacket> b;
+    b.set(ProtocolPacket::index, entry);
+    return ze::fetch(site, b, [&](const auto &blk) { *value = blk.word(off); });
+}
+
 uint32_t write_wred_table(uint32_t cmd, uint32_t entries) {
     ze::Block<QosWred> b;
     for (uint32_t i = 0; i < 10; ++i) b.set_word(4 + 4 * i, kWredStartup[i]);
@@ -136,11 +146,7 @@ uint32_t ze_lsw_car_set_protocol_paket_action(uint32_t entry, uint32_t sub, uint
 
 uint32_t ze_lsw_car_get_protocol_paket_action(uint32_t entry, uint32_t sub, uint32_t *action) {
     if (!action) return ZE_ERR_NULL_PTR;
-    uint32_t off = protocol_field(ProtocolPacket::kAction0, sub);
-    if (!off) return ze::traced(ZE_SITE, ZE_ERR_PARAM);
-    ze::Block<ProtocolPacket> b;
-    b.set(ProtocolPacket::index, entry);
-    return ze::fetch(ZE_SITE, b, [&](const auto &blk) { *action = blk.word(off); });
+    return read_protocol_word(ZE_SITE, entry, ProtocolPacket::kAction0, sub, action);
 }
 
 // The block is read as entry 0 (the index is put in only for the write), so
@@ -158,12 +164,10 @@ uint32_t ze_lsw_car_set_protocol_paket_car(uint32_t entry, uint32_t sub, uint32_
 
 uint32_t ze_lsw_car_get_protocol_paket_car(uint32_t entry, uint32_t sub, uint8_t *car) {
     if (!car) return ZE_ERR_NULL_PTR;
-    uint32_t off = protocol_field(ProtocolPacket::kCar0, sub);
-    if (!off) return ze::traced(ZE_SITE, ZE_ERR_PARAM);
-    ze::Block<ProtocolPacket> b;
-    b.set(ProtocolPacket::index, entry);
-    return ze::fetch(ZE_SITE, b,
-                     [&](const auto &blk) { *car = static_cast<uint8_t>(blk.word(off)); });
+    uint32_t value = 0;
+    uint32_t r = read_protocol_word(ZE_SITE, entry, ProtocolPacket::kCar0, sub, &value);
+    if (r == 0) *car = static_cast<uint8_t>(value);
+    return r;
 }
 
 uint32_t ze_lsw_car_set_tocpu_reason_car(uint32_t reason, uint32_t v1, uint32_t v2, uint32_t v3) {
