@@ -72,6 +72,21 @@ ZE_CLI_HANDLER(ze_adapter_cli_flow_set_mapping_value_select);
 ZE_CLI_HANDLER(ze_adapter_cli_flow_get_mapping_value_select);
 
 /* lsw_car */
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_init_wred);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_protocol_paket_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_protocol_paket_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_protocol_paket_action);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_protocol_paket_action);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_simple_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_simple_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_efc_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_efc_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_flow_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_flow_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_gemport_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_gemport_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_tocpu_reason);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_tocpu_reason);
 
 /* lsw_mac */
 
@@ -108,6 +123,21 @@ ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_tag_act);
 ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_tag_act);
 
 /* lsw_qos */
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_queue_map);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_queue_map);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_queue_buffer);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_queue_buffer);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_egr_schattr);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_egr_schattr);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_wred);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_wred);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_egr_shaping);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_egr_shaping);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_queue_shaping);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_queue_shaping);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_queuecount);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_in_pri);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_in_pri);
 
 /* lsw_sec */
 

@@ -9,6 +9,8 @@ const Area *const kAreas[] = {
     &kPortArea,
     &kEmacArea,
     &kBoardArea,
+    &kQosArea,
+    &kCarArea,
     &kFlowArea,
     &kGmacArea,
 };

@@ -12,6 +12,8 @@ extern const Area kDpLibArea;
 extern const Area kPortArea;
 extern const Area kEmacArea;
 extern const Area kBoardArea;
+extern const Area kQosArea;
+extern const Area kCarArea;
 extern const Area kFlowArea;
 extern const Area kGmacArea;
 

@@ -9,8 +9,10 @@ std::span<const Family> families() {
         {"emac", kEmacCommands},
         {"gmac", kGmacCommands},
         {"flow", kFlowCommands},
+        {"car", kCarCommands},
         {"phy", kPhyCommands},
         {"port", kPortCommands},
+        {"qos", kQosCommands},
     };
     return kFamilies;
 }

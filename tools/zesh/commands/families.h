@@ -10,5 +10,7 @@ extern const std::span<const CommandSpec> kGmacCommands;
 extern const std::span<const CommandSpec> kFlowCommands;
 extern const std::span<const CommandSpec> kPhyCommands;
 extern const std::span<const CommandSpec> kPortCommands;
+extern const std::span<const CommandSpec> kCarCommands;
+extern const std::span<const CommandSpec> kQosCommands;
 
 }  // namespace zesh
