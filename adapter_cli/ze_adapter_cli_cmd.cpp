@@ -21,11 +21,53 @@ const ze_adapter_cli_entry_s g_st_adapter_cli[] = {
     // flow (18)
     // lsw_car (29)
     // lsw_mac (44)
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_set_swmode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_get_swmode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_set_learn),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_get_learn),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_set_learn_fail),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_get_learn_fail),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_set_learnmode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_get_learnmode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_set_limitenable),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_get_limitenable),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_set_limitcount),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_get_limitcount),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_set_ageenable),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_get_ageenable),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_set_agetime),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_get_agetime),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_add),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_get),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_del),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_mac_diagnose),
     // lsw_phy (64)
     // lsw_port (69)
     // lsw_qos (90)
     // lsw_sec (105)
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_sec_set_blackmode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_sec_get_blackmode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_sec_add_blackmac),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_sec_del_blackmac),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_sec_diagnose),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_sec_set_ip_filtermode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_sec_get_ip_filtermode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_sec_add_ip_filtertable),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_sec_del_ip_filtertable),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_sec_get_ip_filtertable),
     // lsw_vlan (115)
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_add_port),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_del_port),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_get_port),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_set_tag),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_get_tag),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_set_vlanfilter),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_get_vlanfilter),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_add_vlanbcegr),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_del_vlanbcegr),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_get_vlanbcegr),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_display_vlanbcegrs),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_vlan_diagnose),
     // lsw_pm (127)
 };
 

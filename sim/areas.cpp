@@ -7,6 +7,8 @@ const Area *const kAreas[] = {
     &kDpLibArea,
     &kChipArea,
     &kPortArea,
+    &kL2Area,
+    &kSecArea,
 };
 }  // namespace
 

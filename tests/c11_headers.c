@@ -2,7 +2,10 @@
 #include "ze_adapter_cli.h"
 #include "ze_chip.h"
 #include "ze_lsw_common.h"
+#include "ze_lsw_mac.h"
 #include "ze_lsw_port.h"
+#include "ze_lsw_sec.h"
+#include "ze_lsw_vlan.h"
 #include "ze_result.h"
 #include "ze_types.h"
 
