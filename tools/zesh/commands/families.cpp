@@ -6,6 +6,9 @@ namespace zesh {
 std::span<const Family> families() {
     static const Family kFamilies[] = {
         {"chip", kChipCommands},
+        {"lsw_mac", kMacCommands},
+        {"lsw_sec", kSecCommands},
+        {"lsw_vlan", kVlanCommands},
     };
     return kFamilies;
 }

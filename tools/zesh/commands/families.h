@@ -5,5 +5,8 @@
 namespace zesh {
 
 extern const std::span<const CommandSpec> kChipCommands;
+extern const std::span<const CommandSpec> kMacCommands;
+extern const std::span<const CommandSpec> kSecCommands;
+extern const std::span<const CommandSpec> kVlanCommands;
 
 }  // namespace zesh
