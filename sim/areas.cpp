@@ -7,6 +7,8 @@ const Area *const kAreas[] = {
     &kDpLibArea,
     &kChipArea,
     &kPortArea,
+    &kEmacArea,
+    &kBoardArea,
     &kL2Area,
     &kSecArea,
 };

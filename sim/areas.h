@@ -10,6 +10,8 @@ namespace zesim {
 extern const Area kChipArea;
 extern const Area kDpLibArea;
 extern const Area kPortArea;
+extern const Area kEmacArea;
+extern const Area kBoardArea;
 extern const Area kL2Area;
 extern const Area kSecArea;
 

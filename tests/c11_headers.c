@@ -1,8 +1,12 @@
 /* Every public header, compiled as C11. */
 #include "ze_adapter_cli.h"
+#include "ze_board.h"
 #include "ze_chip.h"
+#include "ze_emac.h"
+#include "ze_igmp_api.h"
 #include "ze_lsw_common.h"
 #include "ze_lsw_mac.h"
+#include "ze_lsw_phy.h"
 #include "ze_lsw_port.h"
 #include "ze_lsw_sec.h"
 #include "ze_lsw_vlan.h"

@@ -6,9 +6,12 @@ namespace zesh {
 std::span<const Family> families() {
     static const Family kFamilies[] = {
         {"chip", kChipCommands},
-        {"lsw_mac", kMacCommands},
-        {"lsw_sec", kSecCommands},
-        {"lsw_vlan", kVlanCommands},
+        {"emac", kEmacCommands},
+        {"mac", kMacCommands},
+        {"phy", kPhyCommands},
+        {"port", kPortCommands},
+        {"sec", kSecCommands},
+        {"vlan", kVlanCommands},
     };
     return kFamilies;
 }

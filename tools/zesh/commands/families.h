@@ -5,6 +5,9 @@
 namespace zesh {
 
 extern const std::span<const CommandSpec> kChipCommands;
+extern const std::span<const CommandSpec> kEmacCommands;
+extern const std::span<const CommandSpec> kPhyCommands;
+extern const std::span<const CommandSpec> kPortCommands;
 extern const std::span<const CommandSpec> kMacCommands;
 extern const std::span<const CommandSpec> kSecCommands;
 extern const std::span<const CommandSpec> kVlanCommands;
