@@ -4,6 +4,7 @@
 // port, and VLAN 1 broadcast reaching every port.
 #include "ze_blocks_global.h"
 #include "ze_blocks_l2.h"
+#include "ze_blocks_port.h"
 #include "ze_dp.h"
 #include "ze_dp_block.h"
 #include "ze_lsw_port.h"
@@ -18,38 +19,43 @@ struct Assign {
     uint32_t value;
 };
 
-// Blocks exchanged here by pointer; only their sizes matter to this module.
+// The eight VLAN filter attribute words; no command of the library's own.
 struct VlanFilterAttr {
     static constexpr uint32_t kSize = 32, kWords = 8;
 };
-struct CpuPortAttr {
-    static constexpr uint32_t kSize = 40;
-};
-struct UniPortAttr {
-    static constexpr uint32_t kSize = 188;
-    static constexpr ze::U32<kSize> port{0};
-    static constexpr ze::U32<kSize> word8{8};
-    static constexpr ze::U8<kSize> byte24{24};
-};
-struct NniPortAttr {
-    static constexpr uint32_t kSize = 108;
-    static constexpr ze::U32<kSize> index{0};
-};
+
+using ze::CpuPort;
+using ze::NniPort;
+using ze::UniPort;
+
+// Tag action (group, index) of a block whose table starts at `base`.
+constexpr uint32_t tag(uint32_t base, uint32_t group, uint32_t index) { return base + 12 * group + 4 * index; }
 
 constexpr uint32_t kTpid = 0x8100;
 constexpr uint32_t kVlan = 1;
-constexpr uint32_t kPort0Word8 = 2;
+constexpr uint32_t kUniWord8 = 8, kPort0Word8 = 2;
+constexpr uint32_t kUniByte24 = 24;
 constexpr uint8_t kUniByte24Cleared = 0x04 | 0x20;  // cleared on ports 1..4 only
 
-constexpr Assign kGlobal[] = {{8, 0}};
-constexpr Assign kCpuPort[] = {{24, kTpid}, {28, kVlan}, {32, 0}, {36, 0}};
-// Status on, work mode 0, tag actions (group 0 index 2, group 1 index 0),
-// TPID, default VLAN, default priority.
-constexpr Assign kUniPort[] = {{4, 1},     {16, 0},    {68, 1},  {72, 8},
-                               {84, kTpid}, {88, kVlan}, {92, 0}, {96, 0}};
-constexpr Assign kNniPort[] = {{76, 1}, {80, 8}};
-// Word 32 is the learning of the CPU port.
-constexpr Assign kL2[] = {{192, 13}, {200, 9}, {208, 9}, {32, 0}};
+constexpr Assign kGlobal[] = {{ze::GlobalAttr::access_mode.offset, 0}};
+constexpr uint32_t kCpuTpid = 24, kCpuWord32 = 32, kUniTpid = 84, kUniWord92 = 92;
+constexpr Assign kCpuPort[] = {{kCpuTpid, kTpid},
+                               {CpuPort::defaults[ze::kDefVlan].offset, kVlan},
+                               {kCpuWord32, 0},
+                               {CpuPort::defaults[ze::kDefPri].offset, 0}};
+// Tag action codes of group 0 index 2 and group 1 index 0.
+constexpr uint32_t kTagAct02 = 1, kTagAct10 = 8;
+constexpr Assign kUniPort[] = {{UniPort::status.offset, 1},
+                               {UniPort::workmode.offset, 0},
+                               {tag(UniPort::kTagBase, 0, 2), kTagAct02},
+                               {tag(UniPort::kTagBase, 1, 0), kTagAct10},
+                               {kUniTpid, kTpid},
+                               {UniPort::defaults[ze::kDefVlan].offset, kVlan},
+                               {kUniWord92, 0},
+                               {UniPort::defaults[ze::kDefPri].offset, 0}};
+constexpr Assign kNniPort[] = {{tag(NniPort::kTagBase, 0, 2), kTagAct02},
+                               {tag(NniPort::kTagBase, 1, 0), kTagAct10}};
+constexpr Assign kL2[] = {{192, 13}, {200, 9}, {208, 9}, {ze::L2Attr::learn(ZE_PORT_CPU), 0}};
 
 // VLAN 1 membership passes and broadcast egress adds, in driver order; the
 // CPU port joins with every pass and follows every broadcast add.
@@ -91,14 +97,14 @@ void filter_every_port() {
 }
 
 // Port 0 sets its word 8; ports 1..4 clear two bits of byte 24 instead.
-void set_uni_port(ze::Block<UniPortAttr> &b, uint32_t port) {
+void set_uni_port(ze::Block<UniPort> &b, uint32_t port) {
     b.clear();
-    b.set(UniPortAttr::port, port);
+    b.set(UniPort::port, port);
     ze_dp_uni_eth_port_attr_get(b.data());
     if (port == 0)
-        b.set(UniPortAttr::word8, kPort0Word8);
+        b.set_word(kUniWord8, kPort0Word8);
     else
-        b.set(UniPortAttr::byte24, static_cast<uint8_t>(b.get(UniPortAttr::byte24) & ~kUniByte24Cleared));
+        b.data()[kUniByte24] &= static_cast<uint8_t>(~kUniByte24Cleared);
     assign(b, kUniPort);
     ze_dp_uni_eth_port_attr_set(b.data());
 }
@@ -126,11 +132,11 @@ extern "C" {
 
 uint32_t ze_lsw_port_init_network(void) {
     ze::Block<ze::GlobalAttr> global;
-    ze::Block<CpuPortAttr> cpu;
-    ze::Block<UniPortAttr> uni;
+    ze::Block<CpuPort> cpu;
+    ze::Block<UniPort> uni;
     ze::Block<ze::VlanMember> member;
     ze::Block<ze::L2Attr> l2;
-    ze::Block<NniPortAttr> nni;
+    ze::Block<NniPort> nni;
     ze_dp_dev_open();
 
     enable_vlan_filtering();
@@ -138,7 +144,7 @@ uint32_t ze_lsw_port_init_network(void) {
     filter_every_port();
     load(ze_dp_uni_cpu_port_attr_get, ze_dp_uni_cpu_port_attr_set, cpu, kCpuPort);
     for (uint32_t port = 0; port < ZE_PORT_ETH_COUNT; ++port) set_uni_port(uni, port);
-    nni.set(NniPortAttr::index, 0);
+    nni.set(NniPort::port, 0);
     load(ze_dp_nni_eth_port_attr_get, ze_dp_nni_eth_port_attr_set, nni, kNniPort);
     for (uint32_t port : kMemberPorts) join_vlan(member, port);
     load(ze_dp_l2_attr_get, ze_dp_l2_attr_set, l2, kL2);
