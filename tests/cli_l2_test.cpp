@@ -4,7 +4,6 @@
 #include <string>
 
 #include "test_support.h"
-#include "ze_adapter_cli_table.h"
 #include "ze_lsw_sec_status.h"
 #include "ze_lsw_vlan_cfg.h"
 
@@ -34,20 +33,6 @@ protected:
     alignas(4) uint8_t buf_[64];
     uint32_t reply_ = 0;
 };
-
-TEST_F(CliL2Test, FamiliesSitAtTheirRegistryIndices) {
-    const struct {
-        uint32_t index;
-        const char *name;
-    } firsts[] = {{44, "ze_adapter_cli_lsw_mac_set_swmode"},
-                  {63, "ze_adapter_cli_lsw_mac_diagnose"},
-                  {105, "ze_adapter_cli_lsw_sec_set_blackmode"},
-                  {114, "ze_adapter_cli_lsw_sec_get_ip_filtertable"},
-                  {115, "ze_adapter_cli_lsw_vlan_add_port"},
-                  {126, "ze_adapter_cli_lsw_vlan_diagnose"}};
-    if (g_ui_adapter_cli_count != 164) GTEST_SKIP() << "the other families are not registered yet";
-    for (const auto &f : firsts) EXPECT_STREQ(g_st_adapter_cli[f.index].name, f.name);
-}
 
 TEST_F(CliL2Test, RequestFieldsReachTheApiInItsOrder) {
     put(0, 3);    // port
