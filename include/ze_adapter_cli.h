@@ -89,6 +89,26 @@ ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_tocpu_reason);
 ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_tocpu_reason);
 
 /* lsw_mac */
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_set_swmode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_get_swmode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_set_learn);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_get_learn);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_set_learn_fail);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_get_learn_fail);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_set_learnmode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_get_learnmode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_set_limitenable);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_get_limitenable);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_set_limitcount);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_get_limitcount);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_set_ageenable);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_get_ageenable);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_set_agetime);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_get_agetime);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_add);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_get);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_del);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_mac_diagnose);
 
 /* lsw_phy */
 ZE_CLI_HANDLER(ze_adapter_cli_lsw_phy_get_power);
@@ -140,8 +160,30 @@ ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_in_pri);
 ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_in_pri);
 
 /* lsw_sec */
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_sec_set_blackmode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_sec_get_blackmode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_sec_add_blackmac);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_sec_del_blackmac);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_sec_diagnose);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_sec_set_ip_filtermode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_sec_get_ip_filtermode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_sec_add_ip_filtertable);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_sec_del_ip_filtertable);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_sec_get_ip_filtertable);
 
 /* lsw_vlan */
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_add_port);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_del_port);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_get_port);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_set_tag);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_get_tag);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_set_vlanfilter);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_get_vlanfilter);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_add_vlanbcegr);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_del_vlanbcegr);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_get_vlanbcegr);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_display_vlanbcegrs);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_vlan_diagnose);
 
 /* lsw_pm */
 

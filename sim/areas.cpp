@@ -13,6 +13,8 @@ const Area *const kAreas[] = {
     &kCarArea,
     &kFlowArea,
     &kGmacArea,
+    &kL2Area,
+    &kSecArea,
 };
 }  // namespace
 

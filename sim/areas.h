@@ -16,6 +16,8 @@ extern const Area kQosArea;
 extern const Area kCarArea;
 extern const Area kFlowArea;
 extern const Area kGmacArea;
+extern const Area kL2Area;
+extern const Area kSecArea;
 
 // Little-endian word helpers for descriptor defaults and actions.
 inline uint32_t get_u32(const uint8_t *b, uint32_t off) {

@@ -11,6 +11,9 @@
 #include "ze_lsw_phy.h"
 #include "ze_lsw_port.h"
 #include "ze_lsw_qos.h"
+#include "ze_lsw_mac.h"
+#include "ze_lsw_sec.h"
+#include "ze_lsw_vlan.h"
 #include "ze_result.h"
 #include "ze_types.h"
 

@@ -6,6 +6,10 @@
 #include "ze_host.h"
 #include "ze_sim.h"
 
+// The library's network initialisation, resolved from whichever adapter
+// library the shell is linked with; absent when none provides it.
+extern "C" uint32_t ze_lsw_port_init_network(void) __attribute__((weak));
+
 namespace zesh {
 namespace {
 
@@ -152,6 +156,15 @@ bool sim_blocks(Shell &sh, const std::vector<std::string> &) {
     return true;
 }
 
+bool sim_init_network(Shell &sh, const std::vector<std::string> &) {
+    if (!ze_lsw_port_init_network) {
+        sh.out() << "sim: this build has no network initialisation\n";
+        return false;
+    }
+    sh.out() << "ze_lsw_port_init_network: result " << ze_lsw_port_init_network() << "\n";
+    return true;
+}
+
 const SimCommand kSimCommands[] = {
     {"reset", "reset                  forget every stored block, the log and the faults", sim_reset},
     {"log", "log [N]                the last N driver commands (default 20)", sim_log},
@@ -161,6 +174,8 @@ const SimCommand kSimCommands[] = {
     {"block", "block CMD [KEY...]  show a stored block as words", sim_block},
     {"set", "set CMD OFFSET VALUE [KEY...]  change one word of a stored block", sim_set},
     {"blocks", "blocks                 list the simulated blocks and commands", sim_blocks},
+    {"init-network", "init-network           load the default bridging state (ze_lsw_port_init_network)",
+     sim_init_network},
 };
 
 }  // namespace

@@ -10,9 +10,12 @@ std::span<const Family> families() {
         {"gmac", kGmacCommands},
         {"flow", kFlowCommands},
         {"car", kCarCommands},
+        {"mac", kMacCommands},
         {"phy", kPhyCommands},
         {"port", kPortCommands},
         {"qos", kQosCommands},
+        {"sec", kSecCommands},
+        {"vlan", kVlanCommands},
     };
     return kFamilies;
 }

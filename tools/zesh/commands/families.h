@@ -12,5 +12,8 @@ extern const std::span<const CommandSpec> kPhyCommands;
 extern const std::span<const CommandSpec> kPortCommands;
 extern const std::span<const CommandSpec> kCarCommands;
 extern const std::span<const CommandSpec> kQosCommands;
+extern const std::span<const CommandSpec> kMacCommands;
+extern const std::span<const CommandSpec> kSecCommands;
+extern const std::span<const CommandSpec> kVlanCommands;
 
 }  // namespace zesh

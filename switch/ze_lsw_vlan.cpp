@@ -1,0 +1,149 @@
+// VLAN membership, broadcast egress, hybrid tag mode and the per-port VLAN
+// filter. Membership and broadcast egress changes are recorded in the VLAN
+// shadow (ze_lsw_vlan_cfg.cpp).
+#include "ze_lsw_vlan.h"
+
+#include "ze_blocks_l2.h"
+#include "ze_dp_block.h"
+#include "ze_lsw_vlan_cfg.h"
+
+namespace {
+
+constexpr char kTraceFile[] = "ze_lsw_vlan.cpp";
+
+using ze::BcEgress;
+using ze::FilterMode;
+using ze::HybridTag;
+using ze::VlanMember;
+
+// The filter read-out: one word per port 0..6. Ports 7 and 8 index past the
+// 28 bytes the driver fills; the block is zero-padded so they read 0.
+struct VlanFilterReadout {
+    static constexpr uint32_t kGet = 0x404, kSize = 36, kDriverSize = 28;
+    static constexpr uint32_t filter(uint32_t port) { return 4 * port; }
+};
+
+// The filter mode block with room for the second word of ports 7 and 8,
+// which lies past the 64 bytes exchanged with the driver and is dropped.
+struct FilterModeWithSpill : FilterMode {
+    static constexpr uint32_t kSize = 72;
+};
+
+// Sets or clears a member flag; a port without a flag writes the block back
+// as read. Records the change in the shadow on success.
+uint32_t change_member(const ze::TraceSite &site, uint32_t vlan, uint32_t port, uint32_t flag) {
+    ze::Block<VlanMember> b;
+    b.set(VlanMember::vlan, vlan);
+    uint32_t r = ze::update(site, b, [&](auto &blk) {
+        if (port < VlanMember::kPorts) blk.set_word(VlanMember::member(port), flag);
+    });
+    if (r == ZE_OK) {
+        if (flag)
+            ze_lsw_vlan_inner_save_cfg(vlan, port);
+        else
+            ze_lsw_vlan_inner_cancel_cfg(vlan, port);
+    }
+    return r;
+}
+
+uint32_t change_bc_egress(const ze::TraceSite &site, uint32_t vlan, uint32_t port, bool add) {
+    if (ze_lsw_port_check(port)) return ze::traced(site, ZE_ERR_FAIL);
+    ze::Block<BcEgress> b;
+    b.set(BcEgress::vlan, vlan);
+    b.set(BcEgress::port, port);
+    b.set(BcEgress::enable, add ? 1 : 0);
+    uint32_t r = ze::dp_send(add ? BcEgress::kAdd : BcEgress::kDel, b.data(), b.kSize);
+    if (r == ZE_OK) {
+        if (add)
+            ze_lsw_vlan_inner_save_cfg(vlan, port);
+        else
+            ze_lsw_vlan_inner_cancel_cfg(vlan, port);
+    }
+    return ze::traced(site, r);
+}
+
+}  // namespace
+
+extern "C" {
+
+uint32_t ze_lsw_vlan_add_port(uint32_t vlan, uint32_t port) {
+    return change_member(ZE_SITE, vlan, port, 1);
+}
+
+uint32_t ze_lsw_vlan_del_port(uint32_t vlan, uint32_t port) {
+    return change_member(ZE_SITE, vlan, port, 0);
+}
+
+// The read's outcome is not examined: a failed read leaves the zeroed block
+// and reports no member.
+uint32_t ze_lsw_vlan_get_port(uint32_t vlan, uint32_t *bitmap) {
+    if (!bitmap) return ZE_ERR_NULL_PTR;
+    *bitmap = 0;
+    ze::Block<VlanMember> b;
+    b.set(VlanMember::vlan, vlan);
+    ze::dp_read(b);
+    for (uint32_t p = 0; p < VlanMember::kPorts; ++p)
+        if (b.word(VlanMember::member(p)) == 1) *bitmap |= 1u << p;
+    return ZE_OK;
+}
+
+uint32_t ze_lsw_vlan_bc_add_port(uint32_t vlan, uint32_t port) {
+    return change_bc_egress(ZE_SITE, vlan, port, true);
+}
+
+uint32_t ze_lsw_vlan_bc_del_port(uint32_t vlan, uint32_t port) {
+    return change_bc_egress(ZE_SITE, vlan, port, false);
+}
+
+uint32_t ze_lsw_vlan_bc_get_port(uint32_t vlan, uint32_t *bitmap) {
+    *bitmap = 0;
+    ze::Block<ze::BcEgressTable> b;
+    b.set(ze::BcEgressTable::vlan, vlan);
+    return ze::fetch(ZE_SITE, b, [&](const auto &blk) {
+        for (uint32_t k = 0; k < ze::BcEgressTable::kEntries; ++k) {
+            if (blk.word(ze::BcEgressTable::valid(k)) != 1) continue;
+            uint8_t egr = static_cast<uint8_t>(blk.word(ze::BcEgressTable::port(k)));
+            if (egr < 32) *bitmap |= 1u << egr;
+        }
+    });
+}
+
+uint32_t ze_lsw_vlan_get_hybrid_tagmode(uint32_t vlan, uint32_t port, uint8_t *mode) {
+    ze::Block<HybridTag> b;
+    b.set(HybridTag::vlan, vlan);
+    uint32_t r = ze::dp_read(b);
+    if (r) return ze::traced(ZE_SITE, r);
+    if (port < HybridTag::kSettablePorts) *mode = static_cast<uint8_t>(b.word(HybridTag::mode(port)));
+    return ZE_OK;
+}
+
+uint32_t ze_lsw_vlan_set_hybrid_tagmode(uint32_t vlan, uint32_t port, uint32_t mode) {
+    ze::Block<HybridTag> b;
+    b.set(HybridTag::vlan, vlan);
+    uint32_t r = ze::dp_read(b);
+    if (r == ZE_OK) {
+        if (port < HybridTag::kSettablePorts) b.set_word(HybridTag::mode(port), mode);
+        r = ze::dp_write(b);
+    }
+    return r ? ze::traced(ZE_SITE, r) : ZE_OK;
+}
+
+uint32_t ze_lsw_vlan_get_vlanfilter(uint32_t port, uint8_t *value) {
+    if (ze_lsw_port_check(port)) return ze::traced(ZE_SITE, ZE_ERR_FAIL);
+    ze::Block<VlanFilterReadout> b;
+    uint32_t r = ze::dp_read(b, VlanFilterReadout::kDriverSize);
+    if (r) return ze::traced(ZE_SITE, r);
+    *value = static_cast<uint8_t>(b.word(VlanFilterReadout::filter(port)));
+    return ZE_OK;
+}
+
+uint32_t ze_lsw_vlan_set_vlanfilter(uint32_t port, uint32_t value) {
+    if (ze_lsw_port_check(port)) return ze::traced(ZE_SITE, ZE_ERR_FAIL);
+    ze::Block<FilterModeWithSpill> b;
+    return ze::update(ZE_SITE, b, [&](auto &blk) {
+        blk.set_word(FilterMode::vlan_filter(port), value);
+        blk.set_word(FilterMode::vlan_filter2(port), value);
+    });
+}
+
+}  // extern "C"

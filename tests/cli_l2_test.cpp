@@ -1,0 +1,114 @@
+// The mac, sec and vlan command handlers: argument order, strict failure
+// folding, and the unchecked ageing-time and IP filter rule commands.
+#include <cstring>
+#include <string>
+
+#include "test_support.h"
+#include "ze_lsw_sec_status.h"
+#include "ze_lsw_vlan_cfg.h"
+
+namespace {
+
+using zetest::word_at;
+
+class CliL2Test : public zetest::SimTest {
+protected:
+    void SetUp() override {
+        SimTest::SetUp();
+        std::memset(uc_port_vlan_cfg, 0, sizeof uc_port_vlan_cfg);
+        std::memset(st_ip_filter_status, 0, sizeof st_ip_filter_status);
+        std::memset(buf_, 0, sizeof buf_);
+    }
+    uint32_t run(const std::string &suffix, uint32_t len) {
+        reply_ = 0xdeadbeef;
+        return call("ze_adapter_cli_" + suffix, buf_, len, &reply_);
+    }
+    void put(uint32_t off, uint32_t v) { std::memcpy(buf_ + off, &v, 4); }
+    uint32_t at(uint32_t off) const {
+        uint32_t v;
+        std::memcpy(&v, buf_ + off, 4);
+        return v;
+    }
+
+    alignas(4) uint8_t buf_[64];
+    uint32_t reply_ = 0;
+};
+
+TEST_F(CliL2Test, RequestFieldsReachTheApiInItsOrder) {
+    put(0, 3);    // port
+    put(4, 100);  // VLAN
+    EXPECT_EQ(run("lsw_vlan_add_port", 8), 0u);
+    EXPECT_EQ(reply_, 0xdeadbeefu);
+    EXPECT_EQ(zesim::word(0x400, 16, {100}), 1u);
+
+    std::memset(buf_, 0, sizeof buf_);
+    uint16_t port = 2, vlan = 100;
+    std::memcpy(buf_, &port, 2);
+    std::memcpy(buf_ + 4, &vlan, 2);
+    buf_[6] = 1;
+    EXPECT_EQ(run("lsw_vlan_set_tag", 8), 0u);
+    EXPECT_EQ(zesim::word(0x343, 12, {100}), 1u);
+    buf_[6] = 0;
+    EXPECT_EQ(run("lsw_vlan_get_tag", 8), 0u);
+    EXPECT_EQ(buf_[6], 1u);
+    EXPECT_EQ(reply_, 8u);
+
+    std::memset(buf_, 0, sizeof buf_);
+    buf_[0] = 100;  // VLAN u16 at 0, the bitmap replied at 4
+    EXPECT_EQ(run("lsw_vlan_get_port", 8), 0u);
+    EXPECT_EQ(at(4), 0x08u);
+}
+
+TEST_F(CliL2Test, StrictFamiliesFoldFailuresAndReplyOnlyOnSuccess) {
+    put(0, 9);
+    EXPECT_EQ(run("lsw_mac_get_limitcount", 8), 0xffffffffu);
+    EXPECT_EQ(reply_, 0xdeadbeefu);
+    EXPECT_EQ(run("lsw_vlan_get_vlanfilter", 8), 0xffffffffu);
+    EXPECT_EQ(reply_, 0xdeadbeefu);
+    put(0, 0);
+    EXPECT_EQ(run("lsw_sec_get_ip_filtertable", 36), 0xffffffffu);  // 14 folded
+    EXPECT_EQ(reply_, 0xdeadbeefu);
+
+    EXPECT_EQ(run("lsw_mac_get_limitcount", 9), ZE_ERR_PARAM);
+    EXPECT_EQ(take_console().rfind("\r\n[ERROR INPUT NULL PTR ../adapter_cli/ze_adapter_cli_lsw_mac.cpp ", 0), 0u);
+    EXPECT_EQ(run("lsw_mac_get_swmode", 4), 0u);
+    EXPECT_EQ(reply_, 4u);
+    EXPECT_EQ(run("lsw_mac_diagnose", 4), 0u);
+    EXPECT_EQ(reply_, 4u);
+}
+
+TEST_F(CliL2Test, AgeTimeCommandsTakeTheBufferUnchecked) {
+    put(0, 100000);
+    EXPECT_EQ(run("lsw_mac_set_agetime", 0), 0u);
+    EXPECT_EQ(reply_, 0xdeadbeefu);
+    put(0, 0);
+    EXPECT_EQ(run("lsw_mac_get_agetime", 77), 0u);
+    EXPECT_EQ(at(0), 86399u);
+    EXPECT_EQ(reply_, 4u);
+    EXPECT_EQ(console(), "");
+}
+
+TEST_F(CliL2Test, RuleCommandsDumpTheRequestAndReplyEightBytes) {
+    put(0, 1);           // porttype
+    put(4, 2);           // field
+    put(12, 0x18);       // mask
+    put(16, 0xc0a8010a); // 192.168.1.10
+    EXPECT_EQ(run("lsw_sec_add_ip_filtertable", 3), 0u);
+    EXPECT_EQ(reply_, 8u);
+    char want[160];
+    std::snprintf(want, sizeof want,
+                  "\r\n[0x%08x] : 01 00 00 00 02 00 00 00 00 00 00 00 18 00 00 00 "
+                  "\r\n[0x%08x] : 0a 01 a8 c0 00 00 00 00 00 00 00 00 00 00 00 00 \r\n",
+                  static_cast<uint32_t>(reinterpret_cast<uintptr_t>(buf_)),
+                  static_cast<uint32_t>(reinterpret_cast<uintptr_t>(buf_ + 16)));
+    EXPECT_EQ(take_console(), want);
+    EXPECT_EQ(st_ip_filter_status[0].used, 1u);
+
+    EXPECT_EQ(run("lsw_sec_add_ip_filtertable", 32), 0xffffffffu);  // duplicate
+    EXPECT_EQ(reply_, 0xdeadbeefu);
+    EXPECT_EQ(run("lsw_sec_del_ip_filtertable", 0), 0u);
+    EXPECT_EQ(reply_, 8u);
+    EXPECT_EQ(st_ip_filter_status[0].used, 0u);
+}
+
+}  // namespace

@@ -1,0 +1,168 @@
+// L2 attributes, static entries, the item read-out and the table listing.
+#include <cstring>
+
+#include "test_support.h"
+#include "ze_lsw_mac.h"
+
+namespace {
+
+using zetest::entries_of;
+using zetest::word_at;
+
+class MacTest : public zetest::SimTest {
+protected:
+    static uint32_t l2(uint32_t offset) { return zesim::word(0x700, offset); }
+    // An address-table entry stored straight into the simulated table.
+    static void put_item(uint32_t index, const uint8_t (&mac)[6], uint32_t vlan, uint32_t egress) {
+        zesim::Bytes b(36, 0);
+        std::memcpy(b.data(), &index, 4);
+        std::memcpy(b.data() + 4, mac, 6);
+        std::memcpy(b.data() + 12, &vlan, 4);
+        std::memcpy(b.data() + 24, &egress, 4);
+        b[28] = 1;  // age_en
+        b[32] = 1;  // valid
+        zesim::store(0x704, b);
+    }
+};
+
+TEST_F(MacTest, AgeTimeIsClampedBelowOneDay) {
+    const struct {
+        uint32_t given, stored;
+    } cases[] = {{86400, 86399}, {86399, 86399}, {0, 0}, {0xffffffff, 86399}, {300, 300}};
+    for (const auto &c : cases) {
+        EXPECT_EQ(ze_lsw_mac_set_agetime(c.given), 0u);
+        EXPECT_EQ(l2(172), c.stored) << c.given;
+        uint32_t got = 1;
+        EXPECT_EQ(ze_lsw_mac_get_agetime(&got), 0u);
+        EXPECT_EQ(got, c.stored);
+    }
+}
+
+TEST_F(MacTest, PerPortWordsAndPortEightReachingTheNextArray) {
+    EXPECT_EQ(ze_lsw_mac_set_learn(3, 0), 0u);
+    EXPECT_EQ(l2(8 + 12), 0u);
+    EXPECT_EQ(ze_lsw_mac_set_limitcount(2, 0x12345), 0u);
+    EXPECT_EQ(l2(72 + 8), 0x12345u);
+    uint16_t count = 0;
+    EXPECT_EQ(ze_lsw_mac_get_limitcount(2, &count), 0u);
+    EXPECT_EQ(count, 0x2345u);
+
+    EXPECT_EQ(ze_lsw_mac_set_learn(8, 1), 0u);
+    EXPECT_EQ(l2(40), 1u);
+    uint8_t enable = 0;
+    EXPECT_EQ(ze_lsw_mac_get_limitenable(0, &enable), 0u);
+    EXPECT_EQ(enable, 1u);
+    EXPECT_EQ(ze_lsw_mac_set_limitenable(8, 7), 0u);
+    EXPECT_EQ(ze_lsw_mac_get_limitcount(0, &count), 0u);
+    EXPECT_EQ(count, 7u);
+    EXPECT_EQ(ze_lsw_mac_get_learn(8, &enable), 0u);
+    EXPECT_EQ(enable, 1u);
+}
+
+TEST_F(MacTest, PortAndPointerChecks) {
+    uint8_t enable;
+    uint16_t count;
+    EXPECT_EQ(ze_lsw_mac_set_learn(9, 1), 0xffffffffu);
+    EXPECT_EQ(ze_lsw_mac_get_limitenable(9, nullptr), 0xffffffffu);  // the port is checked first
+    EXPECT_EQ(ze_lsw_mac_get_limitenable(1, nullptr), ZE_ERR_NULL_PTR);
+    EXPECT_EQ(ze_lsw_mac_get_limitcount(1, nullptr), ZE_ERR_NULL_PTR);
+    EXPECT_EQ(ze_lsw_mac_get_limitcount(9, &count), 0xffffffffu);
+    EXPECT_EQ(ze_lsw_mac_get_learn(9, &enable), 0xffffffffu);
+    EXPECT_EQ(ze_lsw_mac_get_learn_fail(nullptr), ZE_ERR_NULL_PTR);
+    EXPECT_EQ(ze_lsw_mac_get_ageenable(nullptr), ZE_ERR_NULL_PTR);
+    EXPECT_TRUE(zesim::commands().empty());
+
+    zesim::fail(0x701, ZE_DRV_INVALID_PARAM);
+    EXPECT_EQ(ze_lsw_mac_set_learnmode(2), ZE_ERR_PARAM);
+}
+
+TEST_F(MacTest, StaticEntriesRoundTripThroughTheTable) {
+    ze_lsw_l2_entry_s e{};
+    const uint8_t mac[6] = {0x00, 0x11, 0x22, 0x33, 0x44, 0x55};
+    std::memcpy(e.mac, mac, 6);
+    e.vlan = 100;
+    e.untag = 1;
+    e.age_en = 1;
+    e.port = 2;
+    EXPECT_EQ(ze_lsw_mac_add(&e), 0u);
+    auto add = entries_of(0x712);
+    ASSERT_EQ(add.size(), 1u);
+    EXPECT_EQ(0, std::memcmp(add[0].sent.data(), mac, 6));
+    EXPECT_EQ(word_at(add[0].sent, 8), 100u);
+    EXPECT_EQ(word_at(add[0].sent, 12), 1u);
+    EXPECT_EQ(word_at(add[0].sent, 20), 0x04u);
+    EXPECT_EQ(word_at(add[0].sent, 24), 1u);
+
+    ze_lsw_l2_entry_s got{};
+    std::memcpy(got.mac, mac, 6);
+    got.vlan = 100;
+    EXPECT_EQ(ze_lsw_mac_get(&got), 0u);
+    EXPECT_EQ(got.port, 2u);
+    EXPECT_EQ(got.untag, 1u);
+    EXPECT_EQ(got.age_en, 1u);
+
+    EXPECT_EQ(ze_lsw_mac_del(mac, 100), 0u);
+    EXPECT_EQ(ze_lsw_mac_get(&got), 0xffffffffu);
+    EXPECT_EQ(ze_lsw_mac_del(nullptr, 100), ZE_ERR_NULL_PTR);
+
+    e.port = 7;  // no bitmap bit
+    EXPECT_EQ(ze_lsw_mac_add(&e), 0u);
+    EXPECT_EQ(word_at(entries_of(0x712).back().sent, 20), 0u);
+    got.port = 5;
+    EXPECT_EQ(ze_lsw_mac_get(&got), 0u);
+    EXPECT_EQ(got.port, 5u);  // an empty bitmap names no port
+}
+
+TEST_F(MacTest, ItemReadReportsPortOrRawBitmap) {
+    const uint8_t uni[6] = {0x00, 0x01, 0x02, 0x03, 0x04, 0x05};
+    const uint8_t multi[6] = {0x01, 0x00, 0x5e, 0x00, 0x00, 0x01};
+    const uint8_t ipv6_multi[6] = {0x33, 0x33, 0x00, 0x00, 0x00, 0x01};
+    put_item(1, uni, 10, 0x04);
+    put_item(2, multi, 20, 0x21);
+    put_item(3, ipv6_multi, 30, 0x21);
+    const struct {
+        uint32_t index, port;
+        uint16_t vlan;
+    } cases[] = {{1, 2, 10}, {2, 0x21, 20}, {3, 99, 30}};
+    for (const auto &c : cases) {
+        ze_lsw_l2_entry_s e{};
+        e.port = 99;
+        EXPECT_EQ(ze_lsw_mac_get_l2item(c.index, &e), 0u);
+        EXPECT_EQ(e.valid, 1u);
+        EXPECT_EQ(e.port, c.port) << c.index;
+        EXPECT_EQ(e.vlan, c.vlan);
+        EXPECT_EQ(e.age_en, 1u);
+    }
+
+    ze_lsw_l2_entry_s untouched;
+    std::memset(&untouched, 0xab, sizeof untouched);
+    ze_lsw_l2_entry_s e = untouched;
+    EXPECT_EQ(ze_lsw_mac_get_l2item(7, &e), 0u);
+    EXPECT_EQ(0, std::memcmp(&e, &untouched, sizeof e));
+    EXPECT_EQ(ze_lsw_mac_get_l2item(7, nullptr), ZE_ERR_NULL_PTR);
+}
+
+TEST_F(MacTest, DiagnoseListsValidEntriesUpToTheFirstFailedRead) {
+    const uint8_t a[6] = {0x00, 0x11, 0x22, 0x33, 0x44, 0x55};
+    const uint8_t b[6] = {0x01, 0x00, 0x5e, 0x7f, 0x00, 0x0a};
+    put_item(0, a, 100, 0x04);
+    put_item(5, b, 4000, 0x61);
+    EXPECT_EQ(ze_lsw_mac_diagnose(0), 0u);
+    const char *header = "index   mac                 vlan    fid     egr     age_en     untag   \r\n";
+    EXPECT_EQ(console(), std::string(header) +
+                             "0       00:11:22:33:44:55   100     0       4       1       0       \r\n"
+                             "5       01:00:5e:7f:00:0a   4000    0       97      1       0       \r\n");
+    EXPECT_EQ(entries_of(0x704).size(), 1024u);
+
+    take_console();
+    zesim::fail(0x704, 0x1234, 3);
+    EXPECT_EQ(ze_lsw_mac_diagnose(0), 0u);
+    EXPECT_EQ(console(), std::string(header) +
+                             "0       00:11:22:33:44:55   100     0       4       1       0       \r\n");
+
+    take_console();
+    EXPECT_EQ(ze_lsw_mac_diagnose(1), 0u);
+    EXPECT_EQ(console(), "");
+}
+
+}  // namespace
