@@ -7,6 +7,7 @@ const Area *const kAreas[] = {
     &kDpLibArea,
     &kChipArea,
     &kPortArea,
+    &kStatsArea,
 };
 }  // namespace
 

@@ -10,6 +10,7 @@ namespace zesim {
 extern const Area kChipArea;
 extern const Area kDpLibArea;
 extern const Area kPortArea;
+extern const Area kStatsArea;
 
 // Little-endian word helpers for descriptor defaults and actions.
 inline uint32_t get_u32(const uint8_t *b, uint32_t off) {

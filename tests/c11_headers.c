@@ -2,6 +2,7 @@
 #include "ze_adapter_cli.h"
 #include "ze_chip.h"
 #include "ze_lsw_common.h"
+#include "ze_lsw_pm.h"
 #include "ze_lsw_port.h"
 #include "ze_result.h"
 #include "ze_types.h"
