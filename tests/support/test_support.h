@@ -2,6 +2,7 @@
 // console output captured, for every test.
 #pragma once
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdint>

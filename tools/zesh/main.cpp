@@ -15,10 +15,11 @@
 namespace {
 
 void usage() {
-    std::cout << "usage: zesh [--device NODE] [--trace] [-c 'CMD; CMD ...' | FILE]\n"
+    std::cout << "usage: zesh [--device NODE] [--trace | --trace-file F] [-c 'CMD; CMD ...' | FILE]\n"
                  "  no argument: interactive (a non-terminal input is read as a script)\n"
                  "  --device NODE  send datapath commands to NODE instead of the simulator\n"
-                 "  --trace        echo every trace record to stderr\n";
+                 "  --trace        echo every trace record to stderr\n"
+                 "  --trace-file F append every trace record to file F\n";
 }
 
 bool run_stream(zesh::Shell &sh, std::istream &in) {
@@ -39,6 +40,14 @@ int main(int argc, char **argv) {
             ze_host_use_device(argv[++i]);
         } else if (!std::strcmp(argv[i], "--trace")) {
             ze_host_trace_echo(stderr);
+        } else if (!std::strcmp(argv[i], "--trace-file") && i + 1 < argc) {
+            FILE *f = std::fopen(argv[++i], "a");
+            if (!f) {
+                std::cerr << "zesh: cannot open " << argv[i] << "\n";
+                return 2;
+            }
+            std::setvbuf(f, nullptr, _IOLBF, 0);
+            ze_host_trace_echo(f);
         } else if (!std::strcmp(argv[i], "-h") || !std::strcmp(argv[i], "--help")) {
             usage();
             return 0;
