@@ -6,6 +6,7 @@ namespace zesh {
 std::span<const Family> families() {
     static const Family kFamilies[] = {
         {"chip", kChipCommands},
+        {"pm", kPmCommands},
     };
     return kFamilies;
 }

@@ -5,5 +5,6 @@
 namespace zesh {
 
 extern const std::span<const CommandSpec> kChipCommands;
+extern const std::span<const CommandSpec> kPmCommands;
 
 }  // namespace zesh
