@@ -46,6 +46,21 @@ ZE_CLI_HANDLER(ze_adapter_cli_chip_get_access_mode);
 /* flow */
 
 /* lsw_car */
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_init_wred);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_protocol_paket_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_protocol_paket_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_protocol_paket_action);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_protocol_paket_action);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_simple_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_simple_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_efc_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_efc_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_flow_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_flow_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_gemport_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_gemport_car);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_set_tocpu_reason);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_tocpu_reason);
 
 /* lsw_mac */
 
@@ -54,6 +69,21 @@ ZE_CLI_HANDLER(ze_adapter_cli_chip_get_access_mode);
 /* lsw_port */
 
 /* lsw_qos */
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_queue_map);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_queue_map);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_queue_buffer);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_queue_buffer);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_egr_schattr);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_egr_schattr);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_wred);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_wred);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_egr_shaping);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_egr_shaping);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_queue_shaping);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_queue_shaping);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_queuecount);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_set_in_pri);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_in_pri);
 
 /* lsw_sec */
 

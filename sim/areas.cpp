@@ -7,6 +7,10 @@ const Area *const kAreas[] = {
     &kDpLibArea,
     &kChipArea,
     &kPortArea,
+    &kQosArea,
+    &kCarArea,
+    &kFlowArea,
+    &kGmacArea,
     &kStatsArea,
 };
 }  // namespace

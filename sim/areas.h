@@ -10,6 +10,10 @@ namespace zesim {
 extern const Area kChipArea;
 extern const Area kDpLibArea;
 extern const Area kPortArea;
+extern const Area kQosArea;
+extern const Area kCarArea;
+extern const Area kFlowArea;
+extern const Area kGmacArea;
 extern const Area kStatsArea;
 
 // Little-endian word helpers for descriptor defaults and actions.

@@ -3,6 +3,7 @@
 // the two empty functions. The group tables live in ze_lsw_pm_groups_*.cpp.
 #include "ze_lsw_pm.h"
 
+#include "ze_blocks_qos.h"
 #include "ze_dp.h"
 #include "ze_lsw_pm_frame.h"
 
@@ -111,16 +112,7 @@ constexpr uint32_t kQueueCount = 128;
 constexpr uint32_t kLastPerPortQueuePort = 14;
 constexpr uint32_t kQueueGroups = 8, kQueuePriorities = 8;
 
-// The queue map as the walk reads it: which queue serves {port, group,
-// priority}, and whether that mapping is valid.
-struct QueueMapRead {
-    static constexpr uint32_t kGet = 2575, kSize = 20;
-    static constexpr ze::U32<kSize> port{0};
-    static constexpr ze::U32<kSize> group{4};
-    static constexpr ze::U32<kSize> priority{8};
-    static constexpr ze::U32<kSize> valid{12};
-    static constexpr ze::U32<kSize> queue{16};
-};
+using ze::QosQueueMap;
 
 // Reads the counters of one queue: word 0 the queue id, then six counters.
 uint32_t read_queue(uint32_t queue, CounterBlock &b) {
@@ -147,15 +139,15 @@ uint32_t port_queues(const ze::TraceSite &site, uint32_t port) {
                  "Q_in", "Q_out", "Q_tail_drop", "buf_low_drop", "q_fwred_drop", "g_gwred_drop");
     for (uint32_t g = 0; g < kQueueGroups; ++g) {
         for (uint32_t p = 0; p < kQueuePriorities; ++p) {
-            ze::Block<QueueMapRead> map;
-            map.set(QueueMapRead::port, port);
-            map.set(QueueMapRead::group, g);
-            map.set(QueueMapRead::priority, p);
+            ze::Block<QosQueueMap> map;
+            map.set(QosQueueMap::port, port);
+            map.set(QosQueueMap::group, g);
+            map.set(QosQueueMap::priority, p);
             uint32_t r = ze::dp_read(map);
             CounterBlock b(kQueueCountersLen);
-            if (r == 0) r = read_queue(map.get(QueueMapRead::queue), b);
+            if (r == 0) r = read_queue(map.get(QosQueueMap::queue), b);
             if (r) return ze::traced(site, r);
-            if (map.get(QueueMapRead::valid) == 0) continue;
+            if (map.get(QosQueueMap::valid) == 0) continue;
             ze_os_printf("%-4u %-4u %-4u %-15u %-15u %-15u %-15u %-15u %-15u\n", g, p, b.u32(0),
                          b.u32(4), b.u32(8), b.u32(12), b.u32(16), b.u32(20), b.u32(24));
         }

@@ -6,6 +6,8 @@ namespace zesh {
 std::span<const Family> families() {
     static const Family kFamilies[] = {
         {"chip", kChipCommands},
+        {"lsw_car", kCarCommands},
+        {"lsw_qos", kQosCommands},
         {"pm", kPmCommands},
     };
     return kFamilies;

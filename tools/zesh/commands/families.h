@@ -5,6 +5,8 @@
 namespace zesh {
 
 extern const std::span<const CommandSpec> kChipCommands;
+extern const std::span<const CommandSpec> kCarCommands;
+extern const std::span<const CommandSpec> kQosCommands;
 extern const std::span<const CommandSpec> kPmCommands;
 
 }  // namespace zesh
