@@ -1,6 +1,7 @@
 // Statistics paths beyond one table: queue and route walks and their stops,
 // clear-all's order and stop, failed reads, range checks, 64-bit assembly.
 #include <cstdio>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -79,6 +80,69 @@ TEST_F(Pm, QueueWalkStopsAtTheFailedReadKeepingEarlierRows) {
     EXPECT_EQ(console(), expected);
     EXPECT_EQ(zetest::entries_of(2590).size(), 6u);
     expect_one_trace("ze_lsw_pm_get_queue_statistic", ZE_ERR_PARAM);
+}
+
+const char kPortQueuesHeader[] =
+    "Gid  Pri  Q_id Q_in            Q_out           Q_tail_drop     buf_low_drop    "
+    "q_fwred_drop    g_gwred_drop   \n";
+
+// A queue map entry of the QoS area: {port, group, priority} -> queue.
+void map_queue(uint32_t port, uint32_t group, uint32_t pri, uint32_t valid, uint32_t queue) {
+    zesim::Bytes b(20, 0);
+    for (uint32_t off = 0; uint32_t v : {port, group, pri, valid, queue}) {
+        std::memcpy(b.data() + off, &v, 4);
+        off += 4;
+    }
+    zesim::store(2575, b);
+}
+
+std::string port_queue_row(uint32_t group, uint32_t pri, uint32_t q) {
+    char line[160];
+    std::snprintf(line, sizeof line, "%-4u %-4u %-4u %-15u %-15u %-15u %-15u %-15u %-15u\n", group,
+                  pri, q, counter_pattern(q, 4), counter_pattern(q, 8), counter_pattern(q, 12),
+                  counter_pattern(q, 16), counter_pattern(q, 20), counter_pattern(q, 24));
+    return line;
+}
+
+TEST_F(Pm, PortQueuesPrintValidMappingsButReadEveryQueue) {
+    zesim::fill_counters();
+    map_queue(14, 0, 1, 1, 40);
+    map_queue(14, 2, 2, 0, 9);  // invalid: read, not printed
+    map_queue(14, 7, 7, 1, 127);
+    map_queue(13, 0, 0, 1, 5);  // another port
+    ASSERT_EQ(ze_lsw_pm_get_queue_statistic(14), 0u);
+    EXPECT_EQ(console(), kPortQueuesHeader + port_queue_row(0, 1, 40) + port_queue_row(7, 7, 127));
+    auto cmds = zesim::commands();
+    ASSERT_EQ(cmds.size(), 128u);
+    for (size_t i = 0; i < cmds.size(); ++i) EXPECT_EQ(cmds[i], i % 2 ? 2590u : 2575u) << i;
+    auto maps = zetest::entries_of(2575);
+    auto counters = zetest::entries_of(2590);
+    const uint32_t g = 2, p = 2;  // walk position 18: group outer, priority inner
+    EXPECT_EQ(zetest::word_at(maps[8 * g + p].sent, 0), 14u);
+    EXPECT_EQ(zetest::word_at(maps[8 * g + p].sent, 4), g);
+    EXPECT_EQ(zetest::word_at(maps[8 * g + p].sent, 8), p);
+    EXPECT_EQ(zetest::word_at(counters[8 * g + p].sent, 0), 9u);
+}
+
+TEST_F(Pm, PortQueuesWithNoValidMappingPrintOnlyTheHeader) {
+    ASSERT_EQ(ze_lsw_pm_get_queue_statistic(0), 0u);
+    EXPECT_EQ(console(), kPortQueuesHeader);
+}
+
+TEST_F(Pm, PortQueueWalkStopsAtEitherFailedRead) {
+    for (uint32_t cmd : {2575u, 2590u}) {
+        zesim::reset();
+        ze_host_trace_clear();
+        take_console();
+        map_queue(2, 0, 0, 1, 3);
+        zesim::fail(cmd, kOther, 3);
+        EXPECT_EQ(ze_lsw_pm_get_queue_statistic(2), ZE_ERR_FAIL);
+        EXPECT_EQ(console(), std::string(kPortQueuesHeader) +
+                                 "0    0    3    0               0               0               "
+                                 "0               0               0              \n");
+        EXPECT_EQ(zesim::commands().size(), cmd == 2575 ? 5u : 6u);
+        expect_one_trace("ze_lsw_pm_get_queue_statistic", ZE_ERR_FAIL);
+    }
 }
 
 TEST_F(Pm, RouteIndexPrintsIpv6ThenIpv4WithoutRelease) {
