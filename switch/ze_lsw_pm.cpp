@@ -68,6 +68,9 @@ void print_rows(const Rows &rows, const CounterBlock &b, uint32_t base, uint32_t
         case Line::Label:
             ze_os_printf("%s\n", l.name);
             break;
+        case Line::Include:
+            print_rows(*row.sub, b, base + l.offset, instance);
+            break;
         }
     }
 }
@@ -91,10 +94,7 @@ void print_alarm_lines(const AlarmLines &lines, const CounterBlock *const *block
 
 uint32_t show(const TraceSite &site, const Group &g) {
     CounterBlock b(g.len);
-    uint32_t r = b.read(g.cmd);
-    if (r) return traced(site, r);
-    print_rows(g.rows, b);
-    return ZE_OK;
+    return show(site, b, g.cmd, [&](const CounterBlock &blk) { print_rows(g.rows, blk); });
 }
 
 }  // namespace ze::pm

@@ -69,12 +69,19 @@ enum class Line : uint8_t {
     ShortSep,    // 30 signs
     LongSep,     // 91 signs
     Label,       // the left cell's name on a line of its own
+    Include,     // another table's rows, moved by the left cell's offset
 };
+
+template <class T>
+struct Table;
+struct Row;
+using Rows = Table<Row>;
 
 struct Row {
     Line line;
     Cell left = {};
     Cell right = {};
+    const Rows *sub = nullptr;  // Include only
 };
 
 constexpr Row pair32(Cell l, Cell r) { return {Line::Pair32, l, r}; }
@@ -83,6 +90,10 @@ constexpr Row single64(Cell l) { return {Line::Single64, l}; }
 constexpr Row indexed32(Cell l, Cell r) { return {Line::Indexed32, l, r}; }
 constexpr Row indexed64(Cell l, Cell r) { return {Line::Indexed64, l, r}; }
 constexpr Row label(const char *text) { return {Line::Label, {text, 0, 0}}; }
+// A run of counters that several groups print alike, `shift` bytes further on.
+constexpr Row include(const Rows &rows, uint16_t shift = 0) {
+    return {Line::Include, {nullptr, shift, 0}, {}, &rows};
+}
 inline constexpr Row kShortSep{Line::ShortSep};
 inline constexpr Row kLongSep{Line::LongSep};
 
@@ -96,7 +107,6 @@ struct Table {
     const T *begin() const { return items; }
     const T *end() const { return items + count; }
 };
-using Rows = Table<Row>;
 
 // A group read with one command and printed with one table.
 struct Group {
@@ -130,8 +140,18 @@ struct AlarmLine {
 using AlarmLines = Table<AlarmLine>;
 void print_alarm_lines(const AlarmLines &lines, const CounterBlock *const *blocks);
 
-// The frame of a group: zeroed block, one read, the table printed. A failed
-// read is traced under `site` and returned; nothing is printed.
+// The frame of a group: the block (zeroed, its index word set) is read with
+// `cmd` and handed to `print`. A failed read is traced under `site` and
+// returned; nothing is printed. Success leaves no trace record.
+template <class Print>
+uint32_t show(const TraceSite &site, CounterBlock &b, uint32_t cmd, Print &&print) {
+    uint32_t r = b.read(cmd);
+    if (r) return traced(site, r);
+    print(static_cast<const CounterBlock &>(b));
+    return ZE_OK;
+}
+
+// A group of one table over one block.
 uint32_t show(const TraceSite &site, const Group &g);
 
 }  // namespace ze::pm

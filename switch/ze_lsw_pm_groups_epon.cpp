@@ -92,19 +92,18 @@ constexpr Row kLlidTxRows[] = {
 
 uint32_t show_llids(const ze::TraceSite &site, const Rows &rows, uint32_t llid) {
     CounterBlock b(kEponLen);
-    uint32_t r = b.read(kEponCmd);
-    if (r) return ze::traced(site, r);
-    if (llid <= kLastLlid) {
-        print_rows(rows, b, 0, llid);
-        print_short_sep();
-    } else {
-        for (uint32_t l = 0; l < kLlidsAll; ++l) {
-            print_rows(rows, b, 0, l);
+    return show(site, b, kEponCmd, [&](const CounterBlock &blk) {
+        if (llid <= kLastLlid) {
+            print_rows(rows, blk, 0, llid);
             print_short_sep();
+        } else {
+            for (uint32_t l = 0; l < kLlidsAll; ++l) {
+                print_rows(rows, blk, 0, l);
+                print_short_sep();
+            }
         }
-    }
-    print_short_sep();
-    return ZE_OK;
+        print_short_sep();
+    });
 }
 
 // Alarm and callback counts: the alarm block, then the 64-bit callback

@@ -146,14 +146,13 @@ uint32_t ze_lsw_pm_get_gpon_alarm_statistic(void) {
 
 uint32_t ze_lsw_pm_get_eps_pon_statistic(void) {
     CounterBlock b(kEpsPonLen);
-    uint32_t r = b.read(kEpsPonCmd);
-    if (r) return ze::traced(ZE_SITE, r);
-    for (const EpsPonArray &a : kEpsPonArrays) {
-        for (uint32_t i = 0; i < kEpsPonEntries; i += 2)
-            print_indexed32(a.label, i, b.u32(a.base + 4 * i), a.label, i + 1,
-                            b.u32(a.base + 4 * (i + 1)));
-    }
-    return ZE_OK;
+    return show(ZE_SITE, b, kEpsPonCmd, [](const CounterBlock &blk) {
+        for (const EpsPonArray &a : kEpsPonArrays) {
+            for (uint32_t i = 0; i < kEpsPonEntries; i += 2)
+                print_indexed32(a.label, i, blk.u32(a.base + 4 * i), a.label, i + 1,
+                                blk.u32(a.base + 4 * (i + 1)));
+        }
+    });
 }
 
 }  // extern "C"

@@ -12,6 +12,40 @@ using namespace ze::pm;
 
 constexpr char kTraceFile[] = "ze_lsw_pm.cpp";
 
+// Flow classifier rules 0..15, a word each; each group places the run.
+constexpr Row kEfcMatchedRows[] = {
+    pair32(c("efc0_matched", 0), c("efc1_matched", 4)),
+    pair32(c("efc2_matched", 8), c("efc3_matched", 12)),
+    pair32(c("efc4_matched", 16), c("efc5_matched", 20)),
+    pair32(c("efc6_matched", 24), c("efc7_matched", 28)),
+    pair32(c("efc8_matched", 32), c("efc9_matched", 36)),
+    pair32(c("efc10_matched", 40), c("efc11_matched", 44)),
+    pair32(c("efc12_matched", 48), c("efc13_matched", 52)),
+    pair32(c("efc14_matched", 56), c("efc15_matched", 60)),
+};
+constexpr Rows kEfcMatched = kEfcMatchedRows;
+
+// PPPoE session, DHCPv6, ICMPv6 and MLD reasons as the to-CPU and
+// pass-through groups name and place them.
+constexpr Row kIpv6ReasonRows[] = {
+    pair32(c("pppoe_ss_lcp", 288), c("pppoe_ss_ncp", 292)),
+    pair32(c("pppoe_ss_chap", 296), c("pppoe_ss_pap", 300)),
+    pair32(c("pppoe_ss_ipv6cp", 304), c("pppoe_ss_point_0", 308)),
+    pair32(c("pppoe_ss_point_1", 312), c("pppoe_ss_point_2", 316)),
+    pair32(c("dhcpv6", 320), c("icmpv6_rs", 324)),
+    pair32(c("icmpv6_ra", 328), c("icmpv6_ns", 332)),
+    pair32(c("icmpv6_na", 336), c("icmpv6_rm", 340)),
+    pair32(c("icmpv6_ping_req", 344), c("icmpv6_ping_reply", 348)),
+    pair32(c("icmpv6_unreach", 352), c("icmpv6_group_big", 356)),
+    pair32(c("icmpv6_outtime", 360), c("icmpv6_param_error", 364)),
+    pair32(c("ipoe_mld_qry_v1_v2", 368), c("ipoe_mld_report_v1", 372)),
+    pair32(c("ipoe_mld_report_v2", 376), c("ipoe_mld_done", 380)),
+    pair32(c("pppoe_mld_qry_v1_v2", 384), c("pppoe_mld_report_v1", 388)),
+    pair32(c("pppoe_mld_report_v2", 392), c("pppoe_mld_done", 396)),
+    pair32(c("ipv6_extheader_many", 400), c("header_over_128B", 404)),
+};
+constexpr Rows kIpv6Reasons = kIpv6ReasonRows;
+
 // Drop reasons: eight per-port records of 504 bytes in one block.
 constexpr uint32_t kDropCmd = 2628, kDropLen = 4032;
 constexpr uint32_t kDropRecord = 504;
@@ -23,14 +57,7 @@ constexpr Row kDropRows[] = {
     pair32(c("frag", 16), c("invalid_egrforcpu", 20)),
     pair32(c("invalid_smac", 24), fill("----")),
     kLongSep,
-    pair32(c("efc0_matched", 28), c("efc1_matched", 32)),
-    pair32(c("efc2_matched", 36), c("efc3_matched", 40)),
-    pair32(c("efc4_matched", 44), c("efc5_matched", 48)),
-    pair32(c("efc6_matched", 52), c("efc7_matched", 56)),
-    pair32(c("efc8_matched", 60), c("efc9_matched", 64)),
-    pair32(c("efc10_matched", 68), c("efc11_matched", 72)),
-    pair32(c("efc12_matched", 76), c("efc13_matched", 80)),
-    pair32(c("efc14_matched", 84), c("efc15_matched", 88)),
+    include(kEfcMatched, 28),
     kLongSep,
     pair32(c("igr_car_fctrl", 104), c("vlan_tag", 100)),
     pair32(c("egr_vlan_check", 92), c("em_port_isolation", 96)),
@@ -97,14 +124,7 @@ constexpr Row kTocpuRows[] = {
     kLongSep,
     pair32(c("not_tocpu", 0), fill("----")),
     kLongSep,
-    pair32(c("efc0_matched", 4), c("efc1_matched", 8)),
-    pair32(c("efc2_matched", 12), c("efc3_matched", 16)),
-    pair32(c("efc4_matched", 20), c("efc5_matched", 24)),
-    pair32(c("efc6_matched", 28), c("efc7_matched", 32)),
-    pair32(c("efc8_matched", 36), c("efc9_matched", 40)),
-    pair32(c("efc10_matched", 44), c("efc11_matched", 48)),
-    pair32(c("efc12_matched", 52), c("efc13_matched", 56)),
-    pair32(c("efc14_matched", 60), c("efc15_matched", 64)),
+    include(kEfcMatched, 4),
     kLongSep,
     pair32(fill("----"), c("arp", 96)),
     pair32(c("rarp", 100), c("eapol", 108)),
@@ -128,21 +148,7 @@ constexpr Row kTocpuRows[] = {
     pair32(c("l2_fwd_to_gw_if", 264), c("efc_point_to_wlan", 268)),
     pair32(c("unknown_extern_header", 272), c("ipv6_sip_site_local", 276)),
     pair32(c("ipv6_sip_0", 280), c("ipv6_sip_link_local", 284)),
-    pair32(c("pppoe_ss_lcp", 288), c("pppoe_ss_ncp", 292)),
-    pair32(c("pppoe_ss_chap", 296), c("pppoe_ss_pap", 300)),
-    pair32(c("pppoe_ss_ipv6cp", 304), c("pppoe_ss_point_0", 308)),
-    pair32(c("pppoe_ss_point_1", 312), c("pppoe_ss_point_2", 316)),
-    pair32(c("dhcpv6", 320), c("icmpv6_rs", 324)),
-    pair32(c("icmpv6_ra", 328), c("icmpv6_ns", 332)),
-    pair32(c("icmpv6_na", 336), c("icmpv6_rm", 340)),
-    pair32(c("icmpv6_ping_req", 344), c("icmpv6_ping_reply", 348)),
-    pair32(c("icmpv6_unreach", 352), c("icmpv6_group_big", 356)),
-    pair32(c("icmpv6_outtime", 360), c("icmpv6_param_error", 364)),
-    pair32(c("ipoe_mld_qry_v1_v2", 368), c("ipoe_mld_report_v1", 372)),
-    pair32(c("ipoe_mld_report_v2", 376), c("ipoe_mld_done", 380)),
-    pair32(c("pppoe_mld_qry_v1_v2", 384), c("pppoe_mld_report_v1", 388)),
-    pair32(c("pppoe_mld_report_v2", 392), c("pppoe_mld_done", 396)),
-    pair32(c("ipv6_extheader_many", 400), c("header_over_128B", 404)),
+    include(kIpv6Reasons),
     pair32(c("hl_ttl_less_1", 412), c("rt_fail", 416)),
     pair32(c("refuse_rt", 420), c("no_next_hop", 424)),
     pair32(c("in_tunnel_mtu_fail", 428), c("bc", 432)),
@@ -169,14 +175,7 @@ constexpr Group kTocpu{3345, 512, kTocpuRows};
 // Pass-through reasons.
 constexpr Row kThruRows[] = {
     kLongSep,
-    pair32(c("efc0_matched", 4), c("efc1_matched", 8)),
-    pair32(c("efc2_matched", 12), c("efc3_matched", 16)),
-    pair32(c("efc4_matched", 20), c("efc5_matched", 24)),
-    pair32(c("efc6_matched", 28), c("efc7_matched", 32)),
-    pair32(c("efc8_matched", 36), c("efc9_matched", 40)),
-    pair32(c("efc10_matched", 44), c("efc11_matched", 48)),
-    pair32(c("efc12_matched", 52), c("efc13_matched", 56)),
-    pair32(c("efc14_matched", 60), c("efc15_matched", 64)),
+    include(kEfcMatched, 4),
     kLongSep,
     pair32(c("ge0_thru", 68), c("ge1_thru", 72)),
     pair32(c("fe2_thru", 76), c("fe3_thru", 80)),
@@ -189,21 +188,7 @@ constexpr Row kThruRows[] = {
     pair32(c("eth_type0", 140), c("eth_type1", 144)),
     pair32(c("eth_type2", 148), c("eth_type3", 152)),
     kLongSep,
-    pair32(c("pppoe_ss_lcp", 288), c("pppoe_ss_ncp", 292)),
-    pair32(c("pppoe_ss_chap", 296), c("pppoe_ss_pap", 300)),
-    pair32(c("pppoe_ss_ipv6cp", 304), c("pppoe_ss_point_0", 308)),
-    pair32(c("pppoe_ss_point_1", 312), c("pppoe_ss_point_2", 316)),
-    pair32(c("dhcpv6", 320), c("icmpv6_rs", 324)),
-    pair32(c("icmpv6_ra", 328), c("icmpv6_ns", 332)),
-    pair32(c("icmpv6_na", 336), c("icmpv6_rm", 340)),
-    pair32(c("icmpv6_ping_req", 344), c("icmpv6_ping_reply", 348)),
-    pair32(c("icmpv6_unreach", 352), c("icmpv6_group_big", 356)),
-    pair32(c("icmpv6_outtime", 360), c("icmpv6_param_error", 364)),
-    pair32(c("ipoe_mld_qry_v1_v2", 368), c("ipoe_mld_report_v1", 372)),
-    pair32(c("ipoe_mld_report_v2", 376), c("ipoe_mld_done", 380)),
-    pair32(c("pppoe_mld_qry_v1_v2", 384), c("pppoe_mld_report_v1", 388)),
-    pair32(c("pppoe_mld_report_v2", 392), c("pppoe_mld_done", 396)),
-    pair32(c("ipv6_extheader_many", 400), c("header_over_128B", 404)),
+    include(kIpv6Reasons),
     pair32(c("pppoe_discovery", 116), c("base_on_smac", 160)),
     pair32(c("oam_1ag", 100), c("oam_3ah", 96)),
 };
@@ -220,22 +205,21 @@ extern "C" {
 uint32_t ze_lsw_pm_get_drop_reason_statistic(uint32_t port) {
     if (port > ZE_PORT_ALL) return ze::traced(ZE_SITE, ZE_ERR_PARAM);
     CounterBlock b(kDropLen);
-    uint32_t r = b.read(kDropCmd);
-    if (r) return ze::traced(ZE_SITE, r);
-    if (port != ZE_PORT_ALL) {
-        ze_os_printf("%-20s\n", g_phy_port[port]);
-        print_drop_port(b, port);
-        return ZE_OK;
-    }
-    for (uint32_t p = 0; p < kDropPorts; ++p) {
-        ze_os_printf("\n===================================%-4s"
-                     "===================================================\n",
-                     g_phy_port[p]);
-        print_drop_port(b, p);
-        print_long_sep();
-        print_long_sep();
-    }
-    return ZE_OK;
+    return show(ZE_SITE, b, kDropCmd, [port](const CounterBlock &blk) {
+        if (port != ZE_PORT_ALL) {
+            ze_os_printf("%-20s\n", g_phy_port[port]);
+            print_drop_port(blk, port);
+            return;
+        }
+        for (uint32_t p = 0; p < kDropPorts; ++p) {
+            ze_os_printf("\n===================================%-4s"
+                         "===================================================\n",
+                         g_phy_port[p]);
+            print_drop_port(blk, p);
+            print_long_sep();
+            print_long_sep();
+        }
+    });
 }
 
 uint32_t ze_lsw_pm_get_tocpu_reason_statistic(void) { return show(ZE_SITE, kTocpu); }

@@ -391,18 +391,12 @@ uint32_t ze_lsw_pm_get_uni_eth_statistic(uint32_t port) {
     if (port >= ZE_PORT_ETH_COUNT) return ZE_ERR_PARAM;
     CounterBlock b(kUniEthLen);
     b.set_index(port);
-    uint32_t r = b.read(kUniEthCmd);
-    if (r) return ze::traced(ZE_SITE, r);
-    print_rows(kUniEthRows, b);
-    return ZE_OK;
+    return show(ZE_SITE, b, kUniEthCmd, [](const CounterBlock &blk) { print_rows(kUniEthRows, blk); });
 }
 
 uint32_t ze_lsw_pm_get_cpurtx_statistic(void) {
     CounterBlock b(kCpuRtxLen);
-    uint32_t r = b.read(kCpuRtxCmd);
-    if (r) return ze::traced(ZE_SITE, r);
-    print_cpu_channels(b);
-    return ZE_OK;
+    return show(ZE_SITE, b, kCpuRtxCmd, print_cpu_channels);
 }
 
 uint32_t ze_lsw_pm_get_rt_statistic(void) { return show(ZE_SITE, kRt); }
