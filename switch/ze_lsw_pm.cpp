@@ -114,25 +114,22 @@ constexpr uint32_t kQueueGroups = 8, kQueuePriorities = 8;
 
 using ze::QosQueueMap;
 
-// Reads the counters of one queue: word 0 the queue id, then six counters.
-uint32_t read_queue(uint32_t queue, CounterBlock &b) {
-    b.set_index(queue);
-    return b.read(kQueueCounters);
-}
-
 uint32_t all_queues(const ze::TraceSite &site) {
     ze_os_printf("%-5s %-15s %-15s %-15s %-15s %-15s %-15s\n", "Q_id", "Q_in", "Q_out",
                  "Q_tail_drop", "buf_low_drop", "q_fwred_drop", "g_gwred_drop");
     for (uint32_t q = 0; q < kQueueCount; ++q) {
         CounterBlock b(kQueueCountersLen);
-        uint32_t r = read_queue(q, b);
-        if (r) return ze::traced(site, r);
-        ze_os_printf("%-5u %-15u %-15u %-15u %-15u %-15u %-15u\n", b.u32(0), b.u32(4), b.u32(8),
-                     b.u32(12), b.u32(16), b.u32(20), b.u32(24));
+        b.set_index(q);
+        uint32_t r = show(site, b, kQueueCounters, [](const CounterBlock &blk) {
+            ze_os_printf("%-5u %-15u %-15u %-15u %-15u %-15u %-15u\n", blk.u32(0), blk.u32(4),
+                         blk.u32(8), blk.u32(12), blk.u32(16), blk.u32(20), blk.u32(24));
+        });
+        if (r) return r;
     }
     return ZE_OK;
 }
 
+// Queue counter blocks hold the queue id in word 0, then six counters.
 // The queue counters are read before the mapping's valid flag is looked at.
 uint32_t port_queues(const ze::TraceSite &site, uint32_t port) {
     ze_os_printf("%-4s %-4s %-4s %-15s %-15s %-15s %-15s %-15s %-15s\n", "Gid", "Pri", "Q_id",
@@ -145,7 +142,8 @@ uint32_t port_queues(const ze::TraceSite &site, uint32_t port) {
             map.set(QosQueueMap::priority, p);
             uint32_t r = ze::dp_read(map);
             CounterBlock b(kQueueCountersLen);
-            if (r == 0) r = read_queue(map.get(QosQueueMap::queue), b);
+            b.set_index(map.get(QosQueueMap::queue));
+            if (r == 0) r = b.read(kQueueCounters);
             if (r) return ze::traced(site, r);
             if (map.get(QosQueueMap::valid) == 0) continue;
             ze_os_printf("%-4u %-4u %-4u %-15u %-15u %-15u %-15u %-15u %-15u\n", g, p, b.u32(0),
@@ -163,8 +161,10 @@ constexpr uint32_t kRouteIndexes = 16;
 struct RouteFamily {
     uint32_t cmd;
     const char *name;
+    bool heads_index;  // the index line comes before this family's rows
 };
-constexpr RouteFamily kRouteFamilies[] = {{3364, "ipv6"}, {3369, "ipv4"}};
+constexpr RouteFamily kIpv6Routes{3364, "ipv6", true};
+constexpr RouteFamily kIpv4Routes{3369, "ipv4", false};
 
 constexpr Row kRouteRows[] = {
     pair64(w("rt_rx_frame_num", 8), w("rt_rx_byte_num", 16)),
@@ -176,19 +176,18 @@ constexpr Row kRouteRows[] = {
 uint32_t route_family(const ze::TraceSite &site, const RouteFamily &f, uint32_t index) {
     CounterBlock b(kRouteLen);
     b.set_index(index);
-    uint32_t r = b.read(f.cmd);
-    if (r) return ze::traced(site, r);
-    if (f.cmd == kRouteFamilies[0].cmd) ze_os_printf("index   : %u\n", index);
-    ze_os_printf("============%s================\n", f.name);
-    print_rows(kRouteRows, b);
-    return ZE_OK;
+    return show(site, b, f.cmd, [&](const CounterBlock &blk) {
+        if (f.heads_index) ze_os_printf("index   : %u\n", index);
+        ze_os_printf("============%s================\n", f.name);
+        print_rows(kRouteRows, blk);
+    });
 }
 
 // One index: the IPv6 record (headed by the index line once it is in), then
 // the IPv4 record.
 uint32_t route_index(const ze::TraceSite &site, uint32_t index) {
-    uint32_t r = route_family(site, kRouteFamilies[0], index);
-    return r ? r : route_family(site, kRouteFamilies[1], index);
+    uint32_t r = route_family(site, kIpv6Routes, index);
+    return r ? r : route_family(site, kIpv4Routes, index);
 }
 
 // ---- Clear-all ---------------------------------------------------------------------
