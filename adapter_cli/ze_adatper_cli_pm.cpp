@@ -36,14 +36,14 @@ uint32_t with_buffer_word(void *req) {
 
 }  // namespace
 
-#define ZE_PM_EMPTY(group, api)                                                           \
-    uint32_t ze_adapter_cli_lsw_pm_##group(void *req, uint32_t req_len, uint32_t *reply_len) { \
+#define ZE_PM_EMPTY(group, api)                                                                  \
+    uint32_t ze_adapter_cli_lsw_pm_##group(void *req, uint32_t req_len, uint32_t *reply_len) {   \
         return ze::cli::handle_empty(kFamily, __func__, __LINE__, req, req_len, reply_len, api); \
     }
 
-#define ZE_PM_BUFFER_WORD(group)                                                          \
-    uint32_t ze_adapter_cli_lsw_pm_##group(void *req, uint32_t req_len, uint32_t *reply_len) { \
-        return ze::cli::handle_empty(kFamily, __func__, __LINE__, req, req_len, reply_len,     \
+#define ZE_PM_BUFFER_WORD(group)                                                                  \
+    uint32_t ze_adapter_cli_lsw_pm_##group(void *req, uint32_t req_len, uint32_t *reply_len) {    \
+        return ze::cli::handle_empty(kFamily, __func__, __LINE__, req, req_len, reply_len,        \
                                      [req] { return with_buffer_word<ze_lsw_pm_##group>(req); }); \
     }
 
@@ -54,24 +54,27 @@ uint32_t ze_adapter_cli_lsw_pm_get_eth_statistic(void *req, uint32_t req_len, ui
                          [](EthStatReq &r) { return ze_lsw_pm_get_eth_statistic(r.port); });
 }
 
-uint32_t ze_adapter_cli_lsw_pm_get_epon_tx_statistic(void *req, uint32_t req_len, uint32_t *reply_len) {
+uint32_t ze_adapter_cli_lsw_pm_get_epon_tx_statistic(void *req, uint32_t req_len,
+                                                     uint32_t *reply_len) {
     return ZE_CLI_HANDLE(LlidReq, ze::cli::kNoReply,
                          [](LlidReq &r) { return ze_lsw_pm_get_epon_tx_statistic(r.llid); });
 }
 
-uint32_t ze_adapter_cli_lsw_pm_get_epon_rx_statistic(void *req, uint32_t req_len, uint32_t *reply_len) {
+uint32_t ze_adapter_cli_lsw_pm_get_epon_rx_statistic(void *req, uint32_t req_len,
+                                                     uint32_t *reply_len) {
     return ZE_CLI_HANDLE(LlidReq, ze::cli::kNoReply,
                          [](LlidReq &r) { return ze_lsw_pm_get_epon_rx_statistic(r.llid); });
 }
 
 uint32_t ze_adapter_cli_lsw_pm_get_epon_bandwidth_statistic(void *req, uint32_t req_len,
-                                                             uint32_t *reply_len) {
+                                                            uint32_t *reply_len) {
     return ZE_CLI_HANDLE(U32PairReq, ze::cli::kNoReply, [](U32PairReq &r) {
         return ze_lsw_pm_get_epon_bandwidth_statistic(r.first, r.second);
     });
 }
 
-uint32_t ze_adapter_cli_lsw_pm_get_uni_eth_statistic(void *req, uint32_t req_len, uint32_t *reply_len) {
+uint32_t ze_adapter_cli_lsw_pm_get_uni_eth_statistic(void *req, uint32_t req_len,
+                                                     uint32_t *reply_len) {
     return ZE_CLI_HANDLE(U32Req, ze::cli::kNoReply,
                          [](U32Req &r) { return ze_lsw_pm_get_uni_eth_statistic(r.value); });
 }

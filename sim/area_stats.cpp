@@ -67,7 +67,8 @@ struct Keyed {
     uint32_t id;
     uint32_t count;
 };
-constexpr Keyed kKeyed[] = {{kUniEth, 5}, {kQueueCounters, 128}, {kRouteIpv6, 16}, {kRouteIpv4, 16}};
+constexpr Keyed kKeyed[] = {
+    {kUniEth, 5}, {kQueueCounters, 128}, {kRouteIpv6, 16}, {kRouteIpv4, 16}};
 
 uint32_t instances(const BlockDesc &d) {
     for (const Keyed &k : kKeyed)
@@ -88,7 +89,9 @@ void zero_counters(uint8_t *blk, void *ctx) {
         if (!is_key_word(d, off)) put_u32(blk, off, 0);
 }
 
-void zero_all(uint32_t id) { for_each_stored(id, zero_counters, const_cast<BlockDesc *>(find_block(id))); }
+void zero_all(uint32_t id) {
+    for_each_stored(id, zero_counters, const_cast<BlockDesc *>(find_block(id)));
+}
 
 void zero_instance(uint32_t id, uint32_t key) {
     const BlockDesc *d = find_block(id);
@@ -103,9 +106,9 @@ uint32_t zero_each(const uint32_t (&ids)[N]) {
     return 0;
 }
 
-constexpr uint32_t kSwitchCounters[] = {3330, 3331, 3332, 3333, 3334, 3335, 3336, 3337, 3338,
-                                        3339, 3340, 3341, 3344, 3345, 3362, 3363, 3367, 3370,
-                                        kQueueCounters};
+constexpr uint32_t kSwitchCounters[] = {3330, 3331, 3332, 3333, 3334,          3335, 3336,
+                                        3337, 3338, 3339, 3340, 3341,          3344, 3345,
+                                        3362, 3363, 3367, 3370, kQueueCounters};
 constexpr uint32_t kGponCounters[] = {3352, 3353, 3354, 3355, 3356, 527, 518};
 constexpr uint32_t kCpuCounters[] = {3371};
 constexpr uint32_t kEponCounters[] = {3360, 3588, 3668};
@@ -123,7 +126,8 @@ uint32_t clear_drop_reasons(uint32_t port) {
         const BlockDesc *d = find_block(kDropReasons);
         std::vector<uint8_t> src(d->length, 0);
         uint8_t *blk = stored_block(kDropReasons, src.data());
-        for (uint32_t off = 0; off < kDropRecord; off += 4) put_u32(blk, kDropRecord * port + off, 0);
+        for (uint32_t off = 0; off < kDropRecord; off += 4)
+            put_u32(blk, kDropRecord * port + off, 0);
     }
     return 0;
 }
@@ -141,7 +145,9 @@ const DpOpDesc kOps[] = {
 
 const Area kStatsArea{"stats", kBlocks, kActions, {}, kOps};
 
-uint32_t counter_pattern(uint32_t instance, uint32_t offset) { return (instance + 1) * 100000 + offset; }
+uint32_t counter_pattern(uint32_t instance, uint32_t offset) {
+    return (instance + 1) * 100000 + offset;
+}
 
 void fill_counters() {
     for (const BlockDesc &d : kBlocks) {
@@ -155,7 +161,8 @@ void fill_counters() {
     }
 }
 
-void set_counter(uint32_t id, uint32_t offset, uint64_t value, std::initializer_list<uint32_t> keys) {
+void set_counter(uint32_t id, uint32_t offset, uint64_t value,
+                 std::initializer_list<uint32_t> keys) {
     set_word(id, offset, static_cast<uint32_t>(value), keys);
     set_word(id, offset + 4, static_cast<uint32_t>(value >> 32), keys);
 }

@@ -21,10 +21,13 @@ namespace ze::pm {
 // The largest counter block (the EPON MAC block).
 inline constexpr uint32_t kMaxCounterBlock = 5752;
 
-// A zeroed counter block of `len` bytes. Reads past its length give 0.
+// A zeroed counter block of `len` bytes (at most kMaxCounterBlock). Reads
+// past its length give 0.
 class CounterBlock {
 public:
-    explicit CounterBlock(uint32_t len) : len_(len) { ze_os_memset(bytes_, 0, len); }
+    explicit CounterBlock(uint32_t len) : len_(len < kMaxCounterBlock ? len : kMaxCounterBlock) {
+        ze_os_memset(bytes_, 0, len_);
+    }
 
     // The index word (port, queue, route index) that selects the instance.
     void set_index(uint32_t v) { __builtin_memcpy(bytes_, &v, sizeof v); }
@@ -38,7 +41,9 @@ public:
         return v;
     }
     // Low word at `off`, high word at `off + 4`.
-    uint64_t u64(uint32_t off) const { return u32(off) | static_cast<uint64_t>(u32(off + 4)) << 32; }
+    uint64_t u64(uint32_t off) const {
+        return u32(off) | static_cast<uint64_t>(u32(off + 4)) << 32;
+    }
 
 private:
     alignas(8) uint8_t bytes_[kMaxCounterBlock];
@@ -61,15 +66,15 @@ constexpr Cell w(const char *name, uint16_t off) { return {name, off, 8}; }
 constexpr Cell fill(const char *name) { return {name, 0, 0}; }
 
 enum class Line : uint8_t {
-    Pair32,      // "%-32s : %-16u | %-32s : %-16u\n"
-    Pair64,      // "%-32s : %-16llu | %-32s : %-16llu\n"
-    Single64,    // "%-32s : %-16llu \n", left cell only
-    Indexed32,   // "%-32s %03u: %016u | %-32s %03u: %016u\n"
-    Indexed64,   // "%-32s %03u: %016llu | %-32s %03u: %016llu\n"
-    ShortSep,    // 30 signs
-    LongSep,     // 91 signs
-    Label,       // the left cell's name on a line of its own
-    Include,     // another table's rows, moved by the left cell's offset
+    Pair32,     // "%-32s : %-16u | %-32s : %-16u\n"
+    Pair64,     // "%-32s : %-16llu | %-32s : %-16llu\n"
+    Single64,   // "%-32s : %-16llu \n", left cell only
+    Indexed32,  // "%-32s %03u: %016u | %-32s %03u: %016u\n"
+    Indexed64,  // "%-32s %03u: %016llu | %-32s %03u: %016llu\n"
+    ShortSep,   // 30 signs
+    LongSep,    // 91 signs
+    Label,      // the left cell's name on a line of its own
+    Include,    // another table's rows, moved by the left cell's offset
 };
 
 template <class T>

@@ -56,8 +56,8 @@ constexpr Row kEponRows[] = {
 // Per-LLID counters: records of 664 bytes, one per LLID; the flush and
 // re-adjust counters are words of two arrays outside the records.
 constexpr uint16_t kLlidRecord = 664;
-constexpr uint32_t kLlidsAll = 8;   // an LLID above 8 prints LLIDs 0..7
-constexpr uint32_t kLastLlid = 8;   // LLID 8 prints alone
+constexpr uint32_t kLlidsAll = 8;  // an LLID above 8 prints LLIDs 0..7
+constexpr uint32_t kLastLlid = 8;  // LLID 8 prints alone
 constexpr Cell rec(const char *name, uint16_t off) { return {name, off, 8, kLlidRecord}; }
 constexpr Cell arr(const char *name, uint16_t off) { return {name, off, 4, 4}; }
 
@@ -133,11 +133,17 @@ constexpr AlarmLine kEponAlarmLines[] = {
 
 extern "C" {
 
-uint32_t ze_lsw_pm_get_epon_statistic(void) { return show(ZE_SITE, {kEponCmd, kEponLen, kEponRows}); }
+uint32_t ze_lsw_pm_get_epon_statistic(void) {
+    return show(ZE_SITE, {kEponCmd, kEponLen, kEponRows});
+}
 
-uint32_t ze_lsw_pm_get_epon_rx_statistic(uint32_t llid) { return show_llids(ZE_SITE, kLlidRxRows, llid); }
+uint32_t ze_lsw_pm_get_epon_rx_statistic(uint32_t llid) {
+    return show_llids(ZE_SITE, kLlidRxRows, llid);
+}
 
-uint32_t ze_lsw_pm_get_epon_tx_statistic(uint32_t llid) { return show_llids(ZE_SITE, kLlidTxRows, llid); }
+uint32_t ze_lsw_pm_get_epon_tx_statistic(uint32_t llid) {
+    return show_llids(ZE_SITE, kLlidTxRows, llid);
+}
 
 uint32_t ze_lsw_pm_get_epon_alarm_statistic(void) {
     CounterBlock alarms(kEponAlarmLen);

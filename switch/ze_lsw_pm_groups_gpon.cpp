@@ -112,11 +112,8 @@ struct EpsPonArray {
     uint32_t base;
 };
 constexpr EpsPonArray kEpsPonArrays[] = {
-    {"txbuffer_depth[%0d]", 0},
-    {"gpon_qbyte[%0d]", 32},
-    {"tx_drop_pkt[%0d]", 64},
-    {"txdma_pkt[%0d]", 96},
-    {"tx_mac_pkt[%0d]", 128},
+    {"txbuffer_depth[%0d]", 0}, {"gpon_qbyte[%0d]", 32},  {"tx_drop_pkt[%0d]", 64},
+    {"txdma_pkt[%0d]", 96},     {"tx_mac_pkt[%0d]", 128},
 };
 
 }  // namespace

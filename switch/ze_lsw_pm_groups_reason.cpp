@@ -212,9 +212,10 @@ uint32_t ze_lsw_pm_get_drop_reason_statistic(uint32_t port) {
             return;
         }
         for (uint32_t p = 0; p < kDropPorts; ++p) {
-            ze_os_printf("\n===================================%-4s"
-                         "===================================================\n",
-                         g_phy_port[p]);
+            ze_os_printf(
+                "\n===================================%-4s"
+                "===================================================\n",
+                g_phy_port[p]);
             print_drop_port(blk, p);
             print_long_sep();
             print_long_sep();

@@ -169,14 +169,15 @@ constexpr Row kSfcRows[] = {
 };
 constexpr Group kSfc{3370, 52, kSfcRows};
 
-// Flow control.
+// Flow counters.
 constexpr Row kFcRows[] = {
     pair32(c("actcfl", 8), c("aflow", 0)),
     pair32(c("mflow", 4), c("fc_debug0", 12)),
 };
 constexpr Group kFc{3333, 16, kFcRows};
 
-// Transmit DMA: 32-bit counters, then each port's packets (144..256) beside its bytes (264..376).
+// Transmit DMA: 32-bit counters, then each port's 64-bit packets (144..256)
+// beside its bytes (264..376).
 constexpr Row kTxdmaRows[] = {
     pair32(c("napt_up_idx_cnt", 0), c("napt_dn_idx_cnt", 4)),
     pair32(c("redir_pkt_cnt", 8), c("ppp_add_err_cnt", 12)),
@@ -218,7 +219,8 @@ constexpr Row kTxdmaRows[] = {
 };
 constexpr Group kTxdma{3331, 384, kTxdmaRows};
 
-// Receive DMA; port_link_err_rsv and prbs_rx_cnt repeat as the driver lays them out.
+// Receive DMA; port_link_err_rsv and prbs_rx_cnt print more than once, as
+// operators know them.
 constexpr Row kRxdmaRows[] = {
     pair32(c("pie_ge0_rx_cnt", 0), c("pie_ge1_rx_cnt", 4)),
     pair32(c("pie_ge2_rx_cnt", 8), c("pie_ge3_rx_cnt", 12)),
@@ -391,7 +393,8 @@ uint32_t ze_lsw_pm_get_uni_eth_statistic(uint32_t port) {
     if (port >= ZE_PORT_ETH_COUNT) return ZE_ERR_PARAM;
     CounterBlock b(kUniEthLen);
     b.set_index(port);
-    return show(ZE_SITE, b, kUniEthCmd, [](const CounterBlock &blk) { print_rows(kUniEthRows, blk); });
+    return show(ZE_SITE, b, kUniEthCmd,
+                [](const CounterBlock &blk) { print_rows(kUniEthRows, blk); });
 }
 
 uint32_t ze_lsw_pm_get_cpurtx_statistic(void) {

@@ -33,7 +33,8 @@ protected:
     static std::vector<std::string> dp_ops() {
         std::vector<std::string> v;
         for (const zesim::LogEntry &e : zesim::log())
-            if (e.kind == zesim::EntryKind::DpOp) v.push_back(e.name + "(" + std::to_string(e.cmd) + ")");
+            if (e.kind == zesim::EntryKind::DpOp)
+                v.push_back(e.name + "(" + std::to_string(e.cmd) + ")");
         return v;
     }
     void expect_one_trace(const char *func, uint32_t result) {
@@ -151,7 +152,8 @@ TEST_F(Pm, RouteIndexPrintsIpv6ThenIpv4WithoutRelease) {
     EXPECT_EQ(console().rfind("index   : 15\n============ipv6================\n", 0), 0u);
     size_t v4 = console().find("============ipv4================\n");
     ASSERT_NE(v4, std::string::npos);
-    EXPECT_EQ(console().find("rt_rx_byte_num                   : 7 "), console().find("rt_rx_byte_num", v4));
+    EXPECT_EQ(console().find("rt_rx_byte_num                   : 7 "),
+              console().find("rt_rx_byte_num", v4));
     EXPECT_EQ((std::vector<uint32_t>{3364, 3369}), zesim::commands());
     EXPECT_TRUE(dp_ops().empty());
 }
@@ -178,7 +180,9 @@ TEST_F(Pm, RouteWalkStopsWithoutReleaseWhenARecordFails) {
 
 std::vector<std::string> clear_all_sequence() {
     std::vector<std::string> v;
-    auto op = [&](const char *name, uint32_t i) { v.push_back(std::string(name) + "(" + std::to_string(i) + ")"); };
+    auto op = [&](const char *name, uint32_t i) {
+        v.push_back(std::string(name) + "(" + std::to_string(i) + ")");
+    };
     for (uint32_t i = 0; i < 16; ++i) op("ze_dp_cnt_ipv6_clr", i), op("ze_dp_cnt_ipv4_clr", i);
     for (uint32_t cmd : {260, 3589, 3372, 3350}) v.push_back("ioctl " + std::to_string(cmd));
     for (uint32_t p = 0; p < 7; ++p) op("ze_dp_l2_cnt_clr", p);
@@ -257,7 +261,8 @@ TEST_F(Pm, ClearAllZeroesEveryCounterButKeepsKeys) {
 TEST_F(Pm, SixtyFourBitCounterIsHighTimesTwoToThe32PlusLow) {
     zesim::set_counter(802, 8, 0x1ffffffffull, {0});
     ASSERT_EQ(ze_lsw_pm_get_uni_eth_statistic(0), 0u);
-    EXPECT_NE(console().find("ul_rx                            : 8589934591       | "), std::string::npos);
+    EXPECT_NE(console().find("ul_rx                            : 8589934591       | "),
+              std::string::npos);
 }
 
 // Every group whose read fails prints nothing: no header, no separator.
@@ -279,7 +284,8 @@ const FailCase kFailCases[] = {
     {"ze_lsw_pm_get_epon_alarm_statistic", ze_lsw_pm_get_epon_alarm_statistic, 3668},
     {"ze_lsw_pm_get_epon_statistic", ze_lsw_pm_get_epon_statistic, 3360},
     {"ze_lsw_pm_get_epon_tx_statistic", [] { return ze_lsw_pm_get_epon_tx_statistic(9); }, 3360},
-    {"ze_lsw_pm_get_drop_reason_statistic", [] { return ze_lsw_pm_get_drop_reason_statistic(8); }, 2628},
+    {"ze_lsw_pm_get_drop_reason_statistic", [] { return ze_lsw_pm_get_drop_reason_statistic(8); },
+     2628},
     {"ze_lsw_pm_get_tocpu_reason_statistic", ze_lsw_pm_get_tocpu_reason_statistic, 3345},
     {"ze_lsw_pm_get_thru_reason_statistic", ze_lsw_pm_get_thru_reason_statistic, 3344},
     {"ze_lsw_pm_get_ipv6_statistic", [] { return ze_lsw_pm_get_ipv6_statistic(2); }, 3364},
@@ -319,8 +325,8 @@ TEST_F(Pm, DropReasonsOfAllPortsAreTheSinglePortSectionsUnderHeaders) {
         ASSERT_EQ(ze_lsw_pm_get_drop_reason_statistic(p), 0u);
         std::string one = take_console();
         char header[128];
-        std::snprintf(header, sizeof header, "\n%s%-4s%s\n", std::string(35, '=').c_str(), labels[p],
-                      std::string(51, '=').c_str());
+        std::snprintf(header, sizeof header, "\n%s%-4s%s\n", std::string(35, '=').c_str(),
+                      labels[p], std::string(51, '=').c_str());
         char label[32];
         std::snprintf(label, sizeof label, "%-20s\n", labels[p]);
         ASSERT_EQ(one.rfind(label, 0), 0u);
