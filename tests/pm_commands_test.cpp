@@ -1,8 +1,10 @@
 // The statistics commands: empty requests, the three that pass the address
 // of a local word (so they take the "every instance" path), the Ethernet
 // statistic that only replies, and the folding of API failures.
+#include <sstream>
 #include <vector>
 
+#include "shell.h"
 #include "test_support.h"
 #include "ze_result.h"
 
@@ -72,6 +74,25 @@ TEST_F(PmCommands, ArgumentsReachTheApi) {
     EXPECT_EQ(run("get_epon_bandwidth_statistic", {1, 0, 0, 0, 2, 0, 0, 0}, &reply), 0u);
     EXPECT_EQ(zetest::word_at(zetest::entries_of(3590).back().sent, 4), 2u);
     EXPECT_EQ(reply, kUnset);
+}
+
+TEST_F(PmCommands, ShellFillsAndSetsCounters) {
+    auto run_line = [](const std::string &line) {
+        std::ostringstream out;
+        zesh::Shell sh(out);
+        return sh.run_line(line);
+    };
+    EXPECT_TRUE(run_line("sim counters fill"));
+    EXPECT_EQ(zesim::word(2590, 8, {127}), zesim::counter_pattern(127, 8));
+    EXPECT_EQ(zesim::word(2590, 0, {127}), 127u);  // the key stays
+    EXPECT_TRUE(run_line("sim counters set 802 8 0x1ffffffff 2"));
+    EXPECT_EQ(zesim::word(802, 8, {2}), 0xffffffffu);
+    EXPECT_EQ(zesim::word(802, 12, {2}), 1u);
+    EXPECT_TRUE(run_line("sim counters set 3371 16 5"));
+    EXPECT_EQ(zesim::word(3371, 16), 5u);
+    EXPECT_EQ(zesim::word(3371, 20), 0u);
+    EXPECT_FALSE(run_line("sim counters set 3371 16"));
+    EXPECT_FALSE(run_line("sim counters set 0x9999 0 1"));
 }
 
 }  // namespace
