@@ -17,6 +17,8 @@ const ze_adapter_cli_entry_s g_st_adapter_cli[] = {
     ZE_CLI_ENTRY(ze_adapter_cli_chip_set_access_mode),
     ZE_CLI_ENTRY(ze_adapter_cli_chip_get_access_mode),
     // emac (6)
+    ZE_CLI_ENTRY(ze_adapter_cli_emac_set_fec),
+    ZE_CLI_ENTRY(ze_adapter_cli_emac_get_fec),
     // gmac (8)
     // flow (18)
     // lsw_car (29)
@@ -37,7 +39,33 @@ const ze_adapter_cli_entry_s g_st_adapter_cli[] = {
     ZE_CLI_ENTRY(ze_adapter_cli_lsw_car_get_tocpu_reason),
     // lsw_mac (44)
     // lsw_phy (64)
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_phy_get_power),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_phy_set_status),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_phy_get_status),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_phy_set_mode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_phy_get_mode),
     // lsw_port (69)
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_set_status),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_status),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_set_workmode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_workmode),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_set_defvlan),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_defvlan),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_set_pause),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_pause),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_set_pausetime),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_pausetime),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_set_loopback),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_loopback),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_set_mtu),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_mtu),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_set_pri),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_pri),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_set_stp),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_stp),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_stpstate),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_set_tag_act),
+    ZE_CLI_ENTRY(ze_adapter_cli_lsw_port_get_tag_act),
     // lsw_qos (90)
     ZE_CLI_ENTRY(ze_adapter_cli_lsw_qos_get_queue_map),
     ZE_CLI_ENTRY(ze_adapter_cli_lsw_qos_set_queue_map),

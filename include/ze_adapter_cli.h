@@ -40,6 +40,11 @@ ZE_CLI_HANDLER(ze_adapter_cli_chip_set_access_mode);
 ZE_CLI_HANDLER(ze_adapter_cli_chip_get_access_mode);
 
 /* emac */
+ZE_CLI_HANDLER(ze_adapter_cli_emac_set_fec);
+ZE_CLI_HANDLER(ze_adapter_cli_emac_get_fec);
+/* not registered: they answer without doing anything */
+ZE_CLI_HANDLER(ze_adapter_cli_emac_get_llid);
+ZE_CLI_HANDLER(ze_adapter_cli_emac_set_llid);
 
 /* gmac */
 
@@ -65,8 +70,36 @@ ZE_CLI_HANDLER(ze_adapter_cli_lsw_car_get_tocpu_reason);
 /* lsw_mac */
 
 /* lsw_phy */
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_phy_get_power);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_phy_set_status);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_phy_get_status);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_phy_set_mode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_phy_get_mode);
+/* not registered */
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_phy_set_power);
 
 /* lsw_port */
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_status);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_status);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_workmode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_workmode);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_defvlan);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_defvlan);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_pause);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_pause);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_pausetime);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_pausetime);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_loopback);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_loopback);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_mtu);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_mtu);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_pri);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_pri);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_stp);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_stp);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_stpstate);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_set_tag_act);
+ZE_CLI_HANDLER(ze_adapter_cli_lsw_port_get_tag_act);
 
 /* lsw_qos */
 ZE_CLI_HANDLER(ze_adapter_cli_lsw_qos_get_queue_map);

@@ -11,6 +11,8 @@ const Area *const kAreas[] = {
     &kCarArea,
     &kFlowArea,
     &kGmacArea,
+    &kEmacArea,
+    &kBoardArea,
     &kStatsArea,
 };
 }  // namespace

@@ -14,6 +14,8 @@ extern const Area kQosArea;
 extern const Area kCarArea;
 extern const Area kFlowArea;
 extern const Area kGmacArea;
+extern const Area kEmacArea;
+extern const Area kBoardArea;
 extern const Area kStatsArea;
 
 // Little-endian word helpers for descriptor defaults and actions.

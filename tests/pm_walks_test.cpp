@@ -1,5 +1,6 @@
 // Statistics paths beyond one table: queue and route walks and their stops,
 // clear-all's order and stop, failed reads, range checks, 64-bit assembly.
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -255,6 +256,18 @@ TEST_F(Pm, ClearAllZeroesEveryCounterButKeepsKeys) {
                 EXPECT_EQ(zetest::word_at(b, off), off == 0 && d.keys[0].width ? key : 0u)
                     << d.name << " offset " << off;
         }
+    }
+}
+
+TEST_F(Pm, NoOtherAreaDescribesACounterCommand) {
+    std::vector<uint32_t> mine, others;
+    for (const zesim::Area *area : zesim::areas()) {
+        auto &ids = std::string(area->name) == "stats" ? mine : others;
+        for (const zesim::BlockDesc &d : area->blocks) ids.insert(ids.end(), {d.get_id, d.set_id});
+        for (const zesim::ActionDesc &a : area->actions) ids.push_back(a.id);
+    }
+    for (uint32_t id : mine) {
+        EXPECT_TRUE(id == 0 || std::count(others.begin(), others.end(), id) == 0) << id;
     }
 }
 

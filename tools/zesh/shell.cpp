@@ -78,13 +78,15 @@ bool parse_number(const std::string &s, uint64_t &value) {
 
 namespace {
 void to_stream(const char *text, size_t len, void *ctx) {
-    static_cast<std::ostream *>(ctx)->write(text, static_cast<std::streamsize>(len));
+    auto *sh = static_cast<Shell *>(ctx);
+    sh->out().write(text, static_cast<std::streamsize>(len));
+    if (len) sh->console_last_ = text[len - 1];
 }
 }  // namespace
 
 // The library's console output goes to the shell's stream, in order with
 // the shell's own lines.
-Shell::Shell(std::ostream &out) : out_(out) { ze_host_set_print_sink(to_stream, &out_); }
+Shell::Shell(std::ostream &out) : out_(out) { ze_host_set_print_sink(to_stream, this); }
 
 Shell::~Shell() { ze_host_set_print_sink(nullptr, nullptr); }
 
@@ -177,7 +179,9 @@ bool Shell::run_command(const std::vector<std::string> &w) {
         return false;
     }
     uint32_t reply_len = kReplyUnset;
+    console_last_ = '\n';
     uint32_t r = handler(req.data(), req.length(), &reply_len);
+    if (console_last_ != '\n') out_ << "\n";  // the result line starts a line of its own
     out_ << spec->name << ": result " << format_code(r) << " (" << result_meaning(r) << ")\n";
     if (reply_len != kReplyUnset) out_ << req.format_reply(reply_len);
     return true;

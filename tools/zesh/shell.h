@@ -29,6 +29,9 @@ public:
 
     std::ostream &out() { return out_; }
 
+    // Last character the library printed during the running command.
+    char console_last_ = '\n';
+
 private:
     bool run_words(const std::vector<std::string> &words);
     bool run_command(const std::vector<std::string> &words);

@@ -6,7 +6,10 @@ namespace zesh {
 std::span<const Family> families() {
     static const Family kFamilies[] = {
         {"chip", kChipCommands},
+        {"emac", kEmacCommands},
         {"lsw_car", kCarCommands},
+        {"phy", kPhyCommands},
+        {"port", kPortCommands},
         {"lsw_qos", kQosCommands},
         {"pm", kPmCommands},
     };

@@ -7,6 +7,9 @@ namespace zesh {
 extern const std::span<const CommandSpec> kChipCommands;
 extern const std::span<const CommandSpec> kCarCommands;
 extern const std::span<const CommandSpec> kQosCommands;
+extern const std::span<const CommandSpec> kEmacCommands;
+extern const std::span<const CommandSpec> kPhyCommands;
+extern const std::span<const CommandSpec> kPortCommands;
 extern const std::span<const CommandSpec> kPmCommands;
 
 }  // namespace zesh

@@ -1,0 +1,78 @@
+// Board physical memory: payloads, kernel codes, and no heap left behind on
+// any way out.
+#include <cstring>
+#include <vector>
+
+#include "test_support.h"
+#include "ze_board.h"
+
+namespace {
+
+class Board : public zetest::SimTest {
+protected:
+    void TearDown() override {
+        ze_host_malloc_fail_at(-1);
+        EXPECT_EQ(ze_host_heap_outstanding(), heap_) << "payload leaked";
+        SimTest::TearDown();
+    }
+    const zesim::LogEntry &last_call() const { return zesim::log().back(); }
+    int64_t heap_ = ze_host_heap_outstanding();
+};
+
+TEST_F(Board, WriteSendsAddressLengthFourAndTheWord) {
+    ASSERT_EQ(ze_board_write_phymem(0x1f000010, 0xa5a55a5a), 0u);
+    const auto &e = last_call();
+    EXPECT_EQ(e.name, "ze_kernel_misc_util_writephymem");
+    ASSERT_EQ(e.sent.size(), 12u);
+    EXPECT_EQ(zetest::word_at(e.sent, 0), 0x1f000010u);
+    EXPECT_EQ(zetest::word_at(e.sent, 4), 4u);
+    EXPECT_EQ(zetest::word_at(e.sent, 8), 0xa5a55a5au);
+    EXPECT_EQ(traces().back().module, 0xf8005500u);
+    EXPECT_STREQ(traces().back().file, "../board/ze_board.cpp");
+}
+
+TEST_F(Board, ReadSendsLengthPlusEightAndCopiesTheData) {
+    for (uint32_t a = 0; a < 16; a += 4) ASSERT_EQ(ze_board_write_phymem(0x3c + a, 0x01020304 * (a + 1)), 0u);
+    uint8_t buf[20];
+    std::memset(buf, 0xee, sizeof buf);
+    ASSERT_EQ(ze_board_read_phymem(0x3c, 16, buf), 0u);
+    const auto &e = last_call();
+    EXPECT_EQ(e.name, "ze_kernel_misc_util_readphymem");
+    EXPECT_EQ(e.cmd, 24u);
+    EXPECT_EQ(zetest::word_at(e.sent, 0), 0x3cu);
+    EXPECT_EQ(zetest::word_at(e.sent, 4), 16u);
+    EXPECT_EQ(zetest::word_at(e.sent, 8), 0u);
+    for (uint32_t a = 0; a < 16; a += 4) {
+        uint32_t w;
+        std::memcpy(&w, buf + a, 4);
+        EXPECT_EQ(w, 0x01020304 * (a + 1)) << a;
+    }
+    EXPECT_EQ(buf[16], 0xee) << "only the length is copied";
+}
+
+TEST_F(Board, FailuresReturnTheirCodeAndFreeThePayload) {
+    uint8_t buf[8] = {1, 2, 3, 4, 5, 6, 7, 8};
+    zesim::fail_call("ze_kernel_misc_util_readphymem", 0x8001);
+    EXPECT_EQ(ze_board_read_phymem(0, 8, buf), 0x8001u) << "kernel code unmapped";
+    EXPECT_EQ(buf[0], 1) << "nothing copied on failure";
+    zesim::fail_call("ze_kernel_misc_util_writephymem", 0xf0000101);
+    EXPECT_EQ(ze_board_write_phymem(0, 1), 0xf0000101u);
+    ze_host_malloc_fail_at(0);
+    EXPECT_EQ(ze_board_read_phymem(0, 8, buf), ZE_ERR_NO_MEMORY);
+    ze_host_malloc_fail_at(0);
+    EXPECT_EQ(ze_board_write_phymem(0, 1), ZE_ERR_NO_MEMORY);
+    EXPECT_EQ(traces().back().result, ZE_ERR_NO_MEMORY);
+}
+
+TEST_F(Board, BadReadArgumentsAllocateNothing) {
+    zesim::clear_log();
+    ze_host_malloc_fail_at(0);  // any allocation would fail and be seen
+    EXPECT_EQ(ze_board_read_phymem(0, 4, nullptr), ZE_ERR_NULL_PTR);
+    EXPECT_EQ(ze_board_read_phymem(0, 0xfffffff8, &heap_), ZE_ERR_PARAM);
+    ze_host_malloc_fail_at(-1);
+    uint8_t b = 0;
+    EXPECT_EQ(ze_board_read_phymem(0, 0, &b), 0u);
+    EXPECT_EQ(zesim::log().size(), 1u);
+}
+
+}  // namespace

@@ -1,0 +1,88 @@
+// IGMP pass-throughs: kernel call names, payloads and codes.
+#include <cstring>
+#include <string>
+
+#include "test_support.h"
+#include "ze_igmp_api.h"
+
+namespace {
+
+using Igmp = zetest::SimTest;
+
+const zesim::LogEntry &last_call() { return zesim::log().back(); }
+
+struct ValuePair {
+    const char *name;
+    uint32_t (*get)(uint32_t *);
+    uint32_t (*set)(uint32_t);
+};
+#define PAIR(n) {#n, ze_igmp_get_##n, ze_igmp_set_##n}
+const ValuePair kValues[] = {
+    PAIR(genqueryip), PAIR(autolrnvlan), PAIR(genquerymode), PAIR(usrvlanact), PAIR(agetimeinter),
+    PAIR(agetimes),   PAIR(defusrvlan),  PAIR(defgrpvlan),   PAIR(snoopingmode), PAIR(proxymode),
+};
+#undef PAIR
+
+TEST_F(Igmp, EveryValueRoundTripsThroughItsOwnKernelCalls) {
+    uint32_t n = 0;
+    for (const auto &v : kValues) ASSERT_EQ(v.set(0xc0a80000 + ++n), 0u) << v.name;
+    n = 0;
+    for (const auto &v : kValues) {
+        uint32_t got = 0;
+        ASSERT_EQ(v.get(&got), 0u) << v.name;
+        EXPECT_EQ(got, 0xc0a80000 + ++n) << v.name;
+        EXPECT_EQ(last_call().name, std::string("ze_kernel_igmp_get_") + v.name);
+        EXPECT_EQ(last_call().cmd, 4u);
+    }
+    EXPECT_TRUE(traces().empty());
+}
+
+TEST_F(Igmp, KernelCodesPassUnchanged) {
+    zesim::fail_call("ze_kernel_igmp_set_proxymode", 0xf0000101);
+    EXPECT_EQ(ze_igmp_set_proxymode(1), 0xf0000101u);
+    zesim::fail_call("ze_kernel_igmp_get_statinfo", 7);
+    EXPECT_EQ(ze_igmp_get_statinfo(), 7u);
+    EXPECT_FALSE(last_call().has_block);
+    EXPECT_EQ(last_call().cmd, 0u);
+}
+
+TEST_F(Igmp, GroupVlanKeepsItsSpellingAndLayout) {
+    ASSERT_EQ(ze_igmp_add_gourpvlan_ip(100, 200, 0xe0000001, 0xe00000ff), 0u);
+    const auto &add = last_call();
+    EXPECT_EQ(add.name, "ze_kernel_igmp_add_groupvlan_ip");
+    ASSERT_EQ(add.sent.size(), 12u);
+    EXPECT_EQ(zetest::word_at(add.sent, 0), 200u | (100u << 16));
+    EXPECT_EQ(zetest::word_at(add.sent, 4), 0xe0000001u);
+    EXPECT_EQ(zetest::word_at(add.sent, 8), 0xe00000ffu);
+    ASSERT_EQ(ze_igmp_del_gourpvlan_ip(100), 0u);
+    EXPECT_EQ(last_call().name, "ze_kernel_igmp_del_groupvlan_ip");
+    EXPECT_EQ(last_call().sent, (zesim::Bytes{0, 0, 100, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+}
+
+TEST_F(Igmp, InterfaceNameIsCutToSixteenBytesWithoutTerminator) {
+    const struct {
+        const char *name;
+        size_t copied;
+    } cases[] = {{"eth0", 4}, {"abcdefghijklmno", 15}, {"abcdefghijklmnop", 16}, {"abcdefghijklmnopqrstu", 16}};
+    for (const auto &c : cases) {
+        ASSERT_EQ(ze_igmp_add_ifname(c.name, 3), 0u);
+        const auto &s = last_call().sent;
+        ASSERT_EQ(s.size(), 20u);
+        EXPECT_EQ(s[0], 0);
+        EXPECT_EQ(s[1], 3);
+        EXPECT_EQ(std::string(s.begin() + 4, s.begin() + 4 + c.copied), std::string(c.name, c.copied));
+        for (size_t i = 4 + c.copied; i < 20; ++i) EXPECT_EQ(s[i], 0) << c.name;
+    }
+    ASSERT_EQ(ze_igmp_del_ifname("pon0"), 0u);
+    EXPECT_EQ(last_call().name, "ze_kernel_igmp_del_ifname");
+}
+
+TEST_F(Igmp, GetIfnameWritesBothValuesEvenOnFailure) {
+    uint8_t v0 = 0xaa, v1 = 0xbb;
+    zesim::fail_call("ze_kernel_igmp_get_ifname", 5);
+    EXPECT_EQ(ze_igmp_get_ifname("eth1", &v0, &v1), 5u);
+    EXPECT_EQ(v0, 0);
+    EXPECT_EQ(v1, 0);
+}
+
+}  // namespace
