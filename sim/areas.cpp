@@ -15,6 +15,9 @@ const Area *const kAreas[] = {
     &kGmacArea,
     &kL2Area,
     &kSecArea,
+    &kEmacArea,
+    &kBoardArea,
+    &kStatsArea,
 };
 }  // namespace
 

@@ -18,6 +18,9 @@ extern const Area kFlowArea;
 extern const Area kGmacArea;
 extern const Area kL2Area;
 extern const Area kSecArea;
+extern const Area kEmacArea;
+extern const Area kBoardArea;
+extern const Area kStatsArea;
 
 // Little-endian word helpers for descriptor defaults and actions.
 inline uint32_t get_u32(const uint8_t *b, uint32_t off) {

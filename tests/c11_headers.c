@@ -10,6 +10,7 @@
 #include "ze_lsw_flow.h"
 #include "ze_lsw_mac.h"
 #include "ze_lsw_phy.h"
+#include "ze_lsw_pm.h"
 #include "ze_lsw_port.h"
 #include "ze_lsw_qos.h"
 #include "ze_lsw_sec.h"

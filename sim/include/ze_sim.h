@@ -143,3 +143,20 @@ void fail_call(const char *name, uint32_t code, uint32_t nth = 0);
 void clear_faults();
 
 }  // namespace zesim
+
+// ---- Counters ------------------------------------------------------------------
+namespace zesim {
+
+// The value that fill_counters() puts in the word at byte `offset` of a
+// counter block's instance (instance = key value of a keyed block, else 0):
+// (instance + 1) * 100000 + offset, so a printed value names its word.
+uint32_t counter_pattern(uint32_t instance, uint32_t offset);
+// Fills every word of every counter block (all instances of the keyed ones:
+// Ethernet ports 0..4, queues 0..127, route indexes 0..15) with the
+// pattern; key words keep their key.
+void fill_counters();
+// Sets one 64-bit counter: the low word at `offset`, the high word after it.
+// A 32-bit counter is one set_word().
+void set_counter(uint32_t id, uint32_t offset, uint64_t value, std::initializer_list<uint32_t> keys = {});
+
+}  // namespace zesim

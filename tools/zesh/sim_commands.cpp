@@ -165,6 +165,34 @@ bool sim_init_network(Shell &sh, const std::vector<std::string> &) {
     return true;
 }
 
+// "counters fill": every counter block shows where each word lies;
+// "counters set CMD OFFSET VALUE [KEY]": one 64-bit counter (low word at
+// OFFSET, high word after it).
+bool sim_counters(Shell &sh, const std::vector<std::string> &args) {
+    if (args.size() == 3 && args[2] == "fill") {
+        zesim::fill_counters();
+        return true;
+    }
+    if (args.size() < 6 || args.size() > 7 || args[2] != "set") {
+        sh.out() << "usage: sim counters fill | sim counters set CMD OFFSET VALUE [KEY]\n";
+        return false;
+    }
+    uint64_t value;
+    if (!parse_number(args[5], value)) {
+        sh.out() << "sim: bad number '" << args[5] << "'\n";
+        return false;
+    }
+    std::vector<uint32_t> v;
+    if (!numbers(sh, {args[3], args[4]}, 0, v) || !block_exists(sh, v[0])) return false;
+    std::vector<uint32_t> key;
+    if (args.size() == 7 && !numbers(sh, {args[6]}, 0, key)) return false;
+    if (key.empty())
+        zesim::set_counter(v[0], v[1], value);
+    else
+        zesim::set_counter(v[0], v[1], value, {key[0]});
+    return true;
+}
+
 const SimCommand kSimCommands[] = {
     {"reset", "reset                  forget every stored block, the log and the faults", sim_reset},
     {"log", "log [N]                the last N driver commands (default 20)", sim_log},
@@ -176,6 +204,8 @@ const SimCommand kSimCommands[] = {
     {"blocks", "blocks                 list the simulated blocks and commands", sim_blocks},
     {"init-network", "init-network           load the default bridging state (ze_lsw_port_init_network)",
      sim_init_network},
+    {"counters", "counters fill | counters set CMD OFFSET VALUE [KEY]  fill every counter block "
+     "with its offsets, or set one 64-bit counter", sim_counters},
 };
 
 }  // namespace

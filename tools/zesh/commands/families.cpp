@@ -16,6 +16,7 @@ std::span<const Family> families() {
         {"qos", kQosCommands},
         {"sec", kSecCommands},
         {"vlan", kVlanCommands},
+        {"pm", kPmCommands},
     };
     return kFamilies;
 }

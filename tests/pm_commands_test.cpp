@@ -1,0 +1,98 @@
+// The statistics commands: empty requests, the three that pass the address
+// of a local word (so they take the "every instance" path), the Ethernet
+// statistic that only replies, and the folding of API failures.
+#include <sstream>
+#include <vector>
+
+#include "shell.h"
+#include "test_support.h"
+#include "ze_result.h"
+
+namespace {
+
+class PmCommands : public zetest::SimTest {
+protected:
+    // An empty request still comes in a buffer.
+    uint32_t run(const char *suffix, std::vector<uint8_t> req, uint32_t *reply) {
+        const uint32_t len = static_cast<uint32_t>(req.size());
+        req.resize(len + 4);
+        *reply = kUnset;
+        return call(std::string("ze_adapter_cli_lsw_pm_") + suffix, req.data(), len, reply);
+    }
+    static constexpr uint32_t kUnset = 0xa5a5a5a5;
+};
+
+TEST_F(PmCommands, QueueCommandWalksAllQueues) {
+    uint32_t reply;
+    EXPECT_EQ(run("get_queue_statistic", {}, &reply), 0u);
+    EXPECT_EQ(zetest::entries_of(2590).size(), 128u);
+    EXPECT_TRUE(zetest::entries_of(2575).empty());
+    EXPECT_EQ(reply, kUnset);
+}
+
+TEST_F(PmCommands, RouteCommandWalksAllIndexesAndReleases) {
+    uint32_t reply;
+    EXPECT_EQ(run("get_ipv6_statistic", {}, &reply), 0u);
+    EXPECT_EQ(zesim::commands().size(), 32u);
+    EXPECT_EQ(zesim::log().back().name, "ze_dp_right_release");
+}
+
+TEST_F(PmCommands, DropReasonCommandIsRefusedByThePortCheck) {
+    uint32_t reply;
+    EXPECT_EQ(run("get_drop_reason_statistic", {}, &reply), ZE_ERR_FAIL);
+    EXPECT_TRUE(zesim::log().empty());
+    EXPECT_TRUE(console().empty());
+}
+
+TEST_F(PmCommands, ApiFailuresFoldIntoMinusOne) {
+    uint32_t reply;
+    zesim::fail(3336, 0xf0000101);  // the API answers 18
+    EXPECT_EQ(run("get_l2_statistic", {}, &reply), ZE_ERR_FAIL);
+    EXPECT_EQ(run("get_uni_eth_statistic", {5, 0, 0, 0}, &reply), ZE_ERR_FAIL);
+    auto t = traces();
+    ASSERT_FALSE(t.empty());
+    EXPECT_STREQ(t.back().file, "../adapter_cli/ze_adatper_cli_pm.cpp");
+    EXPECT_STREQ(t.back().func, "ze_adapter_cli_lsw_pm_get_uni_eth_statistic");
+    EXPECT_EQ(t.back().result, ZE_ERR_FAIL);
+}
+
+TEST_F(PmCommands, EthStatisticRepliesWithoutReading) {
+    uint32_t reply;
+    EXPECT_EQ(run("get_eth_statistic", std::vector<uint8_t>(408), &reply), 0u);
+    EXPECT_EQ(reply, 408u);
+    EXPECT_TRUE(zesim::log().empty());
+}
+
+TEST_F(PmCommands, ArgumentsReachTheApi) {
+    uint32_t reply;
+    zesim::fill_counters();
+    EXPECT_EQ(run("get_epon_rx_statistic", {9}, &reply), 0u);  // LLIDs 0..7
+    EXPECT_NE(console().find("llid_rx_data_byte                007: "), std::string::npos);
+    EXPECT_EQ(console().find(" 008: "), std::string::npos);
+    EXPECT_EQ(run("get_uni_eth_statistic", {4, 0, 0, 0}, &reply), 0u);
+    EXPECT_EQ(zetest::word_at(zetest::entries_of(802).back().sent, 0), 4u);
+    EXPECT_EQ(run("get_epon_bandwidth_statistic", {1, 0, 0, 0, 2, 0, 0, 0}, &reply), 0u);
+    EXPECT_EQ(zetest::word_at(zetest::entries_of(3590).back().sent, 4), 2u);
+    EXPECT_EQ(reply, kUnset);
+}
+
+TEST_F(PmCommands, ShellFillsAndSetsCounters) {
+    auto run_line = [](const std::string &line) {
+        std::ostringstream out;
+        zesh::Shell sh(out);
+        return sh.run_line(line);
+    };
+    EXPECT_TRUE(run_line("sim counters fill"));
+    EXPECT_EQ(zesim::word(2590, 8, {127}), zesim::counter_pattern(127, 8));
+    EXPECT_EQ(zesim::word(2590, 0, {127}), 127u);  // the key stays
+    EXPECT_TRUE(run_line("sim counters set 802 8 0x1ffffffff 2"));
+    EXPECT_EQ(zesim::word(802, 8, {2}), 0xffffffffu);
+    EXPECT_EQ(zesim::word(802, 12, {2}), 1u);
+    EXPECT_TRUE(run_line("sim counters set 3371 16 5"));
+    EXPECT_EQ(zesim::word(3371, 16), 5u);
+    EXPECT_EQ(zesim::word(3371, 20), 0u);
+    EXPECT_FALSE(run_line("sim counters set 3371 16"));
+    EXPECT_FALSE(run_line("sim counters set 0x9999 0 1"));
+}
+
+}  // namespace
