@@ -18,17 +18,17 @@ struct GetAesReq {
     uint8_t aes;
     uint8_t pad;
 };
+// The GEM port travels at offset 2 and its T-CONT at offset 4.
 struct SetGemportReq {
     uint16_t index;
-    uint16_t tcont;
-    uint32_t gemport;
+    uint16_t gemport;
+    uint32_t tcont;
 };
 struct GetGemportReq {
     uint16_t index;
-    uint8_t tcont;
-    uint8_t pad;
     uint16_t gemport;
-    uint16_t pad2;
+    uint8_t tcont;
+    uint8_t pad[3];
 };
 struct FecReq {
     uint32_t selector;

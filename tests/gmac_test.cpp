@@ -110,15 +110,15 @@ TEST_F(GmacTest, FecIsReadBySelector) {
 }
 
 TEST_F(GmacTest, CommandsPackTheirReplies) {
-    uint8_t set[8] = {4, 0, 2, 0, 0xe9, 0x03, 0, 0};  // index 4, T-CONT 2, GEM port 1001
+    uint8_t set[8] = {4, 0, 0xe9, 0x03, 2, 0, 0, 0};  // index 4, GEM port 1001, T-CONT 2
     uint32_t reply = 0;
     ASSERT_EQ(call("ze_adapter_cli_gmac_set_gemport", set, 8, &reply), 0u);
     EXPECT_EQ(reply, 0u);
     uint8_t get[8] = {4, 0, 0, 0, 0, 0, 0, 0};
     ASSERT_EQ(call("ze_adapter_cli_gmac_get_gemport", get, 8, &reply), 0u);
     EXPECT_EQ(reply, 8u);
-    EXPECT_EQ(get[2], 2);
-    EXPECT_EQ(get[4] | get[5] << 8, 1001);
+    EXPECT_EQ(get[2] | get[3] << 8, 1001);
+    EXPECT_EQ(get[4], 2);
     EXPECT_EQ(call("ze_adapter_cli_gmac_del_gemport", get, 3, &reply), 18u);
     EXPECT_NE(console().find("[ERROR INPUT NULL PTR ../adapter_cli/ze_adatper_cli_gmac.cpp"),
               std::string::npos);

@@ -6,8 +6,8 @@ namespace {
 const CommandSpec kRows[] = {
     {"gmac_set_aes", 4, kNoReply, "gemport:u16@0 aes:u16@2"},
     {"gmac_get_aes", 4, 4, "gemport:u16@0 >aes:u8@2"},
-    {"gmac_set_gemport", 8, kNoReply, "index:u16@0 tcont:u16@2 gemport:u32@4"},
-    {"gmac_get_gemport", 8, 8, "index:u16@0 >tcont:u8@2 >gemport:u16@4"},
+    {"gmac_set_gemport", 8, kNoReply, "index:u16@0 gemport:u16@2 tcont:u32@4"},
+    {"gmac_get_gemport", 8, 8, "index:u16@0 >gemport:u16@2 >tcont:u8@4"},
     {"gmac_set_fec", 8, kNoReply, "unused:u32@0"},
     {"gmac_get_fec", 8, 8, "selector:u32@0 >fec:u8@4"},
     {"gmac_del_gemport", 2, kNoReply, "index:u16@0"},
