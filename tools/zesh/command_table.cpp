@@ -24,8 +24,8 @@ const CommandSpec *find_command(std::string_view name) {
 
 namespace {
 
-[[noreturn]] void malformed(const CommandSpec &spec, const std::string &word) {
-    std::fprintf(stderr, "zesh: command table row %s: bad field '%s'\n", spec.name, word.c_str());
+[[noreturn]] void malformed(const CommandSpec &row, const std::string &word) {
+    std::fprintf(stderr, "zesh: command table row %s: bad field '%s'\n", row.name, word.c_str());
     std::abort();
 }
 
@@ -45,9 +45,9 @@ std::optional<std::pair<FieldType, uint32_t>> parse_type(const std::string &t) {
 
 }  // namespace
 
-std::vector<Field> fields_of(const CommandSpec &spec) {
+std::vector<Field> fields_of(const CommandSpec &row) {
     std::vector<Field> out;
-    std::istringstream in(spec.fields);
+    std::istringstream in(row.fields);
     std::string word;
     while (in >> word) {
         Dir dir = Dir::In;
@@ -57,11 +57,11 @@ std::vector<Field> fields_of(const CommandSpec &spec) {
             w.erase(0, 1);
         }
         size_t colon = w.find(':'), at = w.find('@');
-        if (colon == std::string::npos || at == std::string::npos || at < colon) malformed(spec, word);
+        if (colon == std::string::npos || at == std::string::npos || at < colon) malformed(row, word);
         auto type = parse_type(w.substr(colon + 1, at - colon - 1));
-        if (!type) malformed(spec, word);
+        if (!type) malformed(row, word);
         uint32_t off = static_cast<uint32_t>(std::strtoul(w.c_str() + at + 1, nullptr, 10));
-        if (off + type->second > spec.request) malformed(spec, word);
+        if (off + type->second > row.request) malformed(row, word);
         out.push_back({w.substr(0, colon), type->first, off, type->second, dir});
     }
     return out;

@@ -44,7 +44,7 @@ std::span<const CommandSpec> all_commands();
 // By name, with or without the "ze_adapter_cli_" prefix.
 const CommandSpec *find_command(std::string_view name);
 // The parsed field list of a row; aborts on a malformed row (a table bug).
-std::vector<Field> fields_of(const CommandSpec &spec);
+std::vector<Field> fields_of(const CommandSpec &row);
 
 // One family's rows; each family file defines its own.
 struct Family {

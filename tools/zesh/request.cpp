@@ -54,8 +54,8 @@ std::string format_code(uint32_t code) {
     return buf;
 }
 
-Request::Request(const CommandSpec &spec)
-    : spec_(spec), fields_(fields_of(spec)), buf_(kRequestBufferSize, 0), length_(spec.request) {}
+Request::Request(const CommandSpec &row)
+    : row_(row), fields_(fields_of(row)), buf_(kRequestBufferSize, 0), length_(row.request) {}
 
 bool Request::set_field(const Field &f, const std::string &value, std::string &error) {
     uint8_t *p = buf_.data() + f.offset;
@@ -122,7 +122,7 @@ bool Request::fill(std::span<const std::string> words, std::string &error) {
             for (const Field &f : fields_)
                 if (f.name == name) target = &f;
             if (!target) {
-                error = "no field '" + name + "' (see 'help " + spec_.name + "')";
+                error = "no field '" + name + "' (see 'help " + row_.name + "')";
                 return false;
             }
         } else {
@@ -131,7 +131,7 @@ bool Request::fill(std::span<const std::string> words, std::string &error) {
                 if (f.dir != Dir::Out && seen++ == positional) target = &f;
             ++positional;
             if (!target) {
-                error = "too many values (see 'help " + std::string(spec_.name) + "')";
+                error = "too many values (see 'help " + std::string(row_.name) + "')";
                 return false;
             }
         }
@@ -172,13 +172,13 @@ std::string Request::format_reply(uint32_t reply_len) const {
     return s;
 }
 
-std::string describe_command(const CommandSpec &spec) {
-    std::string s = std::string(kCliPrefix) + spec.name + ": request " +
-                    std::to_string(spec.request) + " bytes" +
-                    (spec.checked ? "" : " (length not checked)") + ", reply " +
-                    (spec.reply == kNoReply ? std::string("none") : std::to_string(spec.reply) + " bytes") +
+std::string describe_command(const CommandSpec &row) {
+    std::string s = std::string(kCliPrefix) + row.name + ": request " +
+                    std::to_string(row.request) + " bytes" +
+                    (row.checked ? "" : " (length not checked)") + ", reply " +
+                    (row.reply == kNoReply ? std::string("none") : std::to_string(row.reply) + " bytes") +
                     "\n";
-    for (const Field &f : fields_of(spec)) {
+    for (const Field &f : fields_of(row)) {
         char line[160];
         std::snprintf(line, sizeof line, "  %-20s %-6s at %-4u %s\n", f.name.c_str(), type_name(f),
                       f.offset, f.dir == Dir::In ? "in" : f.dir == Dir::Out ? "out" : "in/out");

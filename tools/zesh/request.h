@@ -18,7 +18,7 @@ inline constexpr uint32_t kReplyUnset = 0xdeadbeef;
 
 class Request {
 public:
-    explicit Request(const CommandSpec &spec);
+    explicit Request(const CommandSpec &row);
 
     // Values in field order, name=value words, or "--hex HEX..." for the raw
     // request; "--len N" overrides the length sent.
@@ -33,13 +33,13 @@ public:
 private:
     bool set_field(const Field &f, const std::string &value, std::string &error);
 
-    const CommandSpec &spec_;
+    const CommandSpec &row_;
     std::vector<Field> fields_;
     std::vector<uint8_t> buf_;
     uint32_t length_;
 };
 
-std::string describe_command(const CommandSpec &spec);
+std::string describe_command(const CommandSpec &row);
 std::string format_code(uint32_t code);
 
 }  // namespace zesh

@@ -118,12 +118,12 @@ bool Shell::run_words(const std::vector<std::string> &w) {
 
 bool Shell::help(const std::vector<std::string> &w) {
     if (w.size() > 1) {
-        const CommandSpec *spec = find_command(w[1]);
-        if (!spec) {
+        const CommandSpec *row = find_command(w[1]);
+        if (!row) {
             out_ << "help: no command '" << w[1] << "'\n";
             return false;
         }
-        out_ << describe_command(*spec);
+        out_ << describe_command(*row);
         return true;
     }
     out_ << "Commands (run as NAME [values in field order | field=value ...] or NAME --hex HEX;\n"
@@ -165,24 +165,24 @@ bool Shell::trace(const std::vector<std::string> &w) {
 }
 
 bool Shell::run_command(const std::vector<std::string> &w) {
-    const CommandSpec *spec = find_command(w[0]);
-    std::string full = std::string(kCliPrefix) + (spec ? spec->name : w[0]);
+    const CommandSpec *row = find_command(w[0]);
+    std::string full = std::string(kCliPrefix) + (row ? row->name : w[0]);
     ze_ifm_handler_f handler = ze_host_ifm_find(full.c_str());
-    if (!spec || !handler) {
+    if (!row || !handler) {
         out_ << w[0] << ": no such command (try 'help')\n";
         return false;
     }
-    Request req(*spec);
+    Request req(*row);
     std::string error;
     if (!req.fill(std::span(w).subspan(1), error)) {
-        out_ << spec->name << ": " << error << "\n";
+        out_ << row->name << ": " << error << "\n";
         return false;
     }
     uint32_t reply_len = kReplyUnset;
     console_last_ = '\n';
     uint32_t r = handler(req.data(), req.length(), &reply_len);
     if (console_last_ != '\n') out_ << "\n";  // the result line starts a line of its own
-    out_ << spec->name << ": result " << format_code(r) << " (" << result_meaning(r) << ")\n";
+    out_ << row->name << ": result " << format_code(r) << " (" << result_meaning(r) << ")\n";
     if (reply_len != kReplyUnset) out_ << req.format_reply(reply_len);
     return true;
 }
