@@ -29,21 +29,27 @@ struct FilterModeWithSpill : FilterMode {
     static constexpr uint32_t kSize = 72;
 };
 
+// Records an added port in the VLAN's shadow entry or cancels a deleted one;
+// the shadow's own result does not reach the caller.
+void record(uint32_t vlan, uint32_t port, bool add) {
+    if (add)
+        ze_lsw_vlan_inner_save_cfg(vlan, port);
+    else
+        ze_lsw_vlan_inner_cancel_cfg(vlan, port);
+}
+
 // Sets or clears a member flag; a port without a flag writes the block back
-// as read. Records the change in the shadow on success.
-uint32_t change_member(const ze::TraceSite &site, uint32_t vlan, uint32_t port, uint32_t flag) {
+// as read. The shadow is updated before the call's own trace record.
+uint32_t change_member(const ze::TraceSite &site, uint32_t vlan, uint32_t port, bool add) {
     ze::Block<VlanMember> b;
     b.set(VlanMember::vlan, vlan);
-    uint32_t r = ze::update(site, b, [&](auto &blk) {
-        if (port < VlanMember::kPorts) blk.set_word(VlanMember::member(port), flag);
-    });
+    uint32_t r = ze::dp_read(b);
     if (r == ZE_OK) {
-        if (flag)
-            ze_lsw_vlan_inner_save_cfg(vlan, port);
-        else
-            ze_lsw_vlan_inner_cancel_cfg(vlan, port);
+        if (port < VlanMember::kPorts) b.set_word(VlanMember::member(port), add ? 1 : 0);
+        r = ze::dp_write(b);
     }
-    return r;
+    if (r == ZE_OK) record(vlan, port, add);
+    return ze::traced(site, r);
 }
 
 uint32_t change_bc_egress(const ze::TraceSite &site, uint32_t vlan, uint32_t port, bool add) {
@@ -53,12 +59,7 @@ uint32_t change_bc_egress(const ze::TraceSite &site, uint32_t vlan, uint32_t por
     b.set(BcEgress::port, port);
     b.set(BcEgress::enable, add ? 1 : 0);
     uint32_t r = ze::dp_send(add ? BcEgress::kAdd : BcEgress::kDel, b.data(), b.kSize);
-    if (r == ZE_OK) {
-        if (add)
-            ze_lsw_vlan_inner_save_cfg(vlan, port);
-        else
-            ze_lsw_vlan_inner_cancel_cfg(vlan, port);
-    }
+    if (r == ZE_OK) record(vlan, port, add);
     return ze::traced(site, r);
 }
 
@@ -67,11 +68,11 @@ uint32_t change_bc_egress(const ze::TraceSite &site, uint32_t vlan, uint32_t por
 extern "C" {
 
 uint32_t ze_lsw_vlan_add_port(uint32_t vlan, uint32_t port) {
-    return change_member(ZE_SITE, vlan, port, 1);
+    return change_member(ZE_SITE, vlan, port, true);
 }
 
 uint32_t ze_lsw_vlan_del_port(uint32_t vlan, uint32_t port) {
-    return change_member(ZE_SITE, vlan, port, 0);
+    return change_member(ZE_SITE, vlan, port, false);
 }
 
 // The read's outcome is not examined: a failed read leaves the zeroed block
