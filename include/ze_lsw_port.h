@@ -77,7 +77,8 @@ ZE_API uint32_t ze_lsw_port_set_defpri(uint32_t port, uint32_t priority);
  * no learning on the CPU port, and VLAN 1 broadcast to every port. Failures
  * of the VLAN filter attribute calls are printed; every other result is
  * ignored. Returns 0; writes no trace. The VLAN filter attribute block is
- * zeroed before it is read. */
+ * not zeroed before its get: the datapath fills it, and all eight words are
+ * set before it is written back. */
 ZE_API uint32_t ze_lsw_port_init_network(void);
 
 ZE_END_DECLS

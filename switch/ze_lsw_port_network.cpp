@@ -20,9 +20,7 @@ struct Assign {
 };
 
 // The eight VLAN filter attribute words; no command of the library's own.
-struct VlanFilterAttr {
-    static constexpr uint32_t kSize = 32, kWords = 8;
-};
+constexpr uint32_t kVlanFilterWords = 8;
 
 using ze::CpuPort;
 using ze::NniPort;
@@ -79,11 +77,13 @@ void report(int line, int32_t r) {
     if (r) ze_os_printf("\r\n %s %d:[%d]", kSourceFile, line, static_cast<int>(r));
 }
 
+// The only block not zeroed first: the get fills it, and every word is set
+// before it is written back, so no byte of it is read undefined here.
 void enable_vlan_filtering() {
-    ze::Block<VlanFilterAttr> b;
-    report(__LINE__, ze_dp_vlan_filter_attr_get(b.data()));
-    for (uint32_t w = 0; w < VlanFilterAttr::kWords; ++w) b.set_word(4 * w, 1);
-    report(__LINE__, ze_dp_vlan_filter_attr_set(b.data()));
+    uint32_t words[kVlanFilterWords];
+    report(__LINE__, ze_dp_vlan_filter_attr_get(words));
+    for (uint32_t &w : words) w = 1;
+    report(__LINE__, ze_dp_vlan_filter_attr_set(words));
 }
 
 void filter_every_port() {
