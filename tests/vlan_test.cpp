@@ -19,11 +19,10 @@ protected:
         SimTest::SetUp();
         std::memset(uc_port_vlan_cfg, 0, sizeof uc_port_vlan_cfg);
     }
-    static ze_port_vlan_cfg_s entry(uint32_t i) { return uc_port_vlan_cfg[i]; }
     static void expect_entry(uint32_t i, uint8_t state, uint8_t mask, uint16_t vlan) {
-        EXPECT_EQ(entry(i).state, state) << "entry " << i;
-        EXPECT_EQ(entry(i).port_mask, mask) << "entry " << i;
-        EXPECT_EQ(entry(i).vlan, vlan) << "entry " << i;
+        const ze_port_vlan_cfg_s &e = uc_port_vlan_cfg[i];
+        EXPECT_TRUE(e.state == state && e.port_mask == mask && e.vlan == vlan)
+            << "entry " << i << ": " << +e.state << " " << +e.port_mask << " " << e.vlan;
     }
     static uint32_t member(uint32_t vlan, uint32_t port) { return zesim::word(0x400, 4 + 4 * port, {vlan}); }
     std::vector<std::string> trace_funcs() const {
@@ -33,7 +32,7 @@ protected:
     }
     bool traced(const char *func, uint32_t result) const {
         for (const auto &t : traces())
-            if (!std::strcmp(t.func, func) && t.result == result) return true;
+            if (func == std::string(t.func) && t.result == result) return true;
         return false;
     }
 };
@@ -68,21 +67,16 @@ TEST_F(VlanTest, RemovingAnEntryInTheMiddlePacksTheTable) {
     for (uint32_t vlan : {10u, 20u, 30u, 40u}) ze_lsw_vlan_add_port(vlan, 1);
     ze_lsw_vlan_bc_add_port(20, 3);  // same entry, second bit
     expect_entry(1, 1, 0x0a, 20);
-    ze_lsw_vlan_del_port(20, 1);
-    expect_entry(1, 1, 0x08, 20);
+    ze_lsw_vlan_bc_del_port(20, 3);
+    expect_entry(1, 1, 0x02, 20);
 
     ze_host_trace_clear();
-    ze_lsw_vlan_bc_del_port(20, 3);
+    ze_lsw_vlan_del_port(20, 1);
     expect_entry(0, 1, 0x02, 10);
     expect_entry(1, 1, 0x02, 30);
     expect_entry(2, 1, 0x02, 40);
     expect_entry(3, 0, 0, 0);
-    EXPECT_EQ(trace_funcs(), (std::vector<std::string>{"ze_lsw_vlan_inner_cfg_sort", "ze_lsw_vlan_bc_del_port"}));
-    ze_lsw_vlan_add_port(30, 4);
-    ze_host_trace_clear();
-    ze_lsw_vlan_del_port(40, 1);
     EXPECT_EQ(trace_funcs(), (std::vector<std::string>{"ze_lsw_vlan_inner_cfg_sort", "ze_lsw_vlan_del_port"}));
-    expect_entry(2, 0, 0, 0);
 }
 
 TEST_F(VlanTest, AFullShadowDoesNotFailTheAdd) {
@@ -96,22 +90,20 @@ TEST_F(VlanTest, AFullShadowDoesNotFailTheAdd) {
     EXPECT_TRUE(traced("ze_lsw_vlan_inner_cancel_cfg", ZE_ERR_NOT_FOUND));
 }
 
+// Failures leave the shadow alone; the member read's failure is not seen by
+// the get, which reports no member and writes no trace.
 TEST_F(VlanTest, DriverFailuresMapAndLeaveTheShadowAlone) {
     zesim::fail(0x401, ZE_DRV_INVALID_PARAM);
     EXPECT_EQ(ze_lsw_vlan_add_port(100, 2), ZE_ERR_PARAM);
-    zesim::clear_faults();
-    zesim::fail(0x400, 0x1234);
-    EXPECT_EQ(ze_lsw_vlan_add_port(100, 2), 0xffffffffu);
-    EXPECT_EQ(entries_of(0x401).size(), 1u);  // only the first attempt wrote
     zesim::fail(0x716, 0x1234);
     EXPECT_EQ(ze_lsw_vlan_bc_add_port(100, 2), 0xffffffffu);
     expect_entry(0, 0, 0, 0);
-}
-
-TEST_F(VlanTest, GetPortIgnoresAFailedReadAndWritesNoTrace) {
-    ze_lsw_vlan_add_port(100, 2);
-    ze_host_trace_clear();
     zesim::fail(0x400, 0x1234);
+    EXPECT_EQ(ze_lsw_vlan_add_port(100, 2), 0xffffffffu);
+    EXPECT_EQ(entries_of(0x401).size(), 1u);  // only the first attempt wrote
+
+    zesim::set_word(0x400, 12, 1, {100});  // port 2 is a member, unseen
+    ze_host_trace_clear();
     uint32_t bitmap = 0xffff;
     EXPECT_EQ(ze_lsw_vlan_get_port(100, &bitmap), 0u);
     EXPECT_EQ(bitmap, 0u);
@@ -126,41 +118,29 @@ TEST_F(VlanTest, DeleteAllSkipsTheEntryMovedIntoTheCurrentPosition) {
     ze_lsw_vlan_add_port(10, 0);
     ze_lsw_vlan_add_port(20, 0);
     ze_lsw_vlan_add_port(30, 4);
-    zesim::clear_log();
-
     EXPECT_EQ(ze_lsw_vlan_del_all_cfg(), 0u);
     EXPECT_EQ(member(10, 0), 0u);
     EXPECT_EQ(member(30, 4), 0u);
     EXPECT_EQ(member(20, 0), 1u);
     expect_entry(0, 1, 0x01, 20);
     expect_entry(1, 0, 0, 0);
-
-    // Port 0's pass wrote VLANs 10 and 30; VLAN 20 only from port 1 on.
-    std::vector<uint32_t> first_pass;
-    for (const auto &e : entries_of(0x401)) {
-        if (word_at(e.sent, 0) == 20) break;
-        first_pass.push_back(word_at(e.sent, 0));
-    }
-    EXPECT_EQ(first_pass, (std::vector<uint32_t>{10, 30}));
 }
 
+// Written at 8 + 4p and 36 + 4p of the filter mode block, read from 4p of
+// the read-out.
 TEST_F(VlanTest, VlanFilterWritesBothWordsAndReadsTheReadout) {
     EXPECT_EQ(ze_lsw_vlan_set_vlanfilter(3, 1), 0u);
-    auto set = entries_of(0x40b);
-    ASSERT_EQ(set.size(), 1u);
-    EXPECT_EQ(word_at(set[0].sent, 20), 1u);
-    EXPECT_EQ(word_at(set[0].sent, 48), 1u);
-
+    const zesim::Bytes sent = entries_of(0x40b).at(0).sent;
+    EXPECT_EQ(word_at(sent, 20), 1u);
+    EXPECT_EQ(word_at(sent, 48), 1u);
     zesim::set_word(0x40a, 8 + 4 * 2, 9);
     uint8_t v = 0;
-    EXPECT_EQ(ze_lsw_vlan_get_vlanfilter(3, &v), 0u);
-    EXPECT_EQ(v, 1u);
-    EXPECT_EQ(ze_lsw_vlan_get_vlanfilter(2, &v), 0u);
-    EXPECT_EQ(v, 9u);
-    EXPECT_EQ(zesim::commands().back(), 0x404u);
-
+    for (auto [port, want] : {std::pair{3u, 1u}, {2u, 9u}}) {
+        EXPECT_EQ(ze_lsw_vlan_get_vlanfilter(port, &v), 0u);
+        EXPECT_EQ(v, want) << port;
+    }
     // Port 8's first word is port 1's second; its own second word has no
-    // place in the block.
+    // place in the block, and the read-out has no word for it.
     EXPECT_EQ(ze_lsw_vlan_set_vlanfilter(8, 5), 0u);
     EXPECT_EQ(zesim::word(0x40a, 40), 5u);
     EXPECT_EQ(ze_lsw_vlan_get_vlanfilter(8, &v), 0u);
@@ -173,18 +153,15 @@ TEST_F(VlanTest, HybridTagModeCoversPortsZeroToFour) {
     EXPECT_EQ(ze_lsw_vlan_set_hybrid_tagmode(100, 4, 1), 0u);
     EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0x343, 0x342}));
     EXPECT_EQ(zesim::word(0x343, 20, {100}), 1u);
-    uint8_t mode = 0;
-    EXPECT_EQ(ze_lsw_vlan_get_hybrid_tagmode(100, 4, &mode), 0u);
-    EXPECT_EQ(mode, 1u);
-
-    zesim::Bytes before = zesim::block(0x343, {100});
+    const zesim::Bytes before = zesim::block(0x343, {100});
     EXPECT_EQ(ze_lsw_vlan_set_hybrid_tagmode(100, 5, 1), 0u);
     EXPECT_EQ(zesim::block(0x343, {100}), before);
-    mode = 7;
+    uint8_t mode = 7;
     EXPECT_EQ(ze_lsw_vlan_get_hybrid_tagmode(100, 5, &mode), 0u);
     EXPECT_EQ(mode, 7u);
+    EXPECT_EQ(ze_lsw_vlan_get_hybrid_tagmode(100, 4, &mode), 0u);
+    EXPECT_EQ(mode, 1u);
     EXPECT_TRUE(traces().empty());
-
     zesim::fail(0x343, ZE_DRV_INVALID_PARAM);
     EXPECT_EQ(ze_lsw_vlan_get_hybrid_tagmode(100, 4, &mode), ZE_ERR_PARAM);
     EXPECT_EQ(traces().size(), 1u);
@@ -198,14 +175,11 @@ TEST_F(VlanTest, BroadcastEgressBitmapAndListing) {
     uint32_t bitmap = 0;
     EXPECT_EQ(ze_lsw_vlan_bc_get_port(100, &bitmap), 0u);
     EXPECT_EQ(bitmap, 0x42u);
-
     EXPECT_EQ(ze_lsw_vlan_display_bcegrs(100), 0u);
-    EXPECT_EQ(console(), "index   egr     fid     \r\n"
-                         "0       1       0       \r\n"
-                         "1       6       0       \r\n"
-                         "5       40      0       \r\n");
-
-    take_console();
+    EXPECT_EQ(take_console(), "index   egr     fid     \r\n"
+                              "0       1       0       \r\n"
+                              "1       6       0       \r\n"
+                              "5       40      0       \r\n");
     zesim::fail(0x718, 0x1234);
     EXPECT_EQ(ze_lsw_vlan_display_bcegrs(100), 0xffffffffu);
     EXPECT_EQ(console(), "");
@@ -216,23 +190,18 @@ TEST_F(VlanTest, DiagnoseListsVlansWithMembersAndTagModes) {
     ze_lsw_vlan_add_port(1, 6);
     ze_lsw_vlan_set_hybrid_tagmode(1, 0, 1);
     ze_lsw_vlan_add_port(4095, 5);
+    const std::string head = "vlan    ge0     fe1     fe2     fe3     fe4     pon     cpu     \r\n"
+                             "1       1       0       0       0       0       0       1       \r\n";
     EXPECT_EQ(ze_lsw_vlan_diagnose(0), 0u);
-    EXPECT_EQ(console(),
-              "vlan    ge0     fe1     fe2     fe3     fe4     pon     cpu     \r\n"
-              "1       1       0       0       0       0       0       1       \r\n"
-              "        untag   tag     tag     tag     tag     tag     \r\n"
-              "4095    0       0       0       0       0       1       0       \r\n"
-              "        tag     tag     tag     tag     tag     tag     \r\n");
-
-    take_console();
+    EXPECT_EQ(take_console(), head +
+                                  "        untag   tag     tag     tag     tag     tag     \r\n"
+                                  "4095    0       0       0       0       0       1       0       \r\n"
+                                  "        tag     tag     tag     tag     tag     tag     \r\n");
     EXPECT_EQ(ze_lsw_vlan_diagnose(1), 0u);
     EXPECT_EQ(console(), "");
-
     zesim::fail(0x343, 0x1234);
     EXPECT_EQ(ze_lsw_vlan_diagnose(0), 0u);
-    EXPECT_EQ(console(),
-              "vlan    ge0     fe1     fe2     fe3     fe4     pon     cpu     \r\n"
-              "1       1       0       0       0       0       0       1       \r\n");
+    EXPECT_EQ(console(), head);
     EXPECT_TRUE(traced("ze_lsw_vlan_inner_printfvlaninfo", 0xffffffffu));
 }
 
