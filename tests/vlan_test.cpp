@@ -2,6 +2,7 @@
 // hybrid tag mode, VLAN filter and the listings.
 #include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "test_support.h"
@@ -10,6 +11,9 @@
 
 namespace {
 
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::Pair;
 using zetest::entries_of;
 using zetest::word_at;
 
@@ -25,15 +29,11 @@ protected:
             << "entry " << i << ": " << +e.state << " " << +e.port_mask << " " << e.vlan;
     }
     static uint32_t member(uint32_t vlan, uint32_t port) { return zesim::word(0x400, 4 + 4 * port, {vlan}); }
-    std::vector<std::string> trace_funcs() const {
-        std::vector<std::string> out;
-        for (const auto &t : traces()) out.push_back(t.func);
+    // (function, result) of every trace record.
+    std::vector<std::pair<std::string, uint32_t>> trace_log() const {
+        std::vector<std::pair<std::string, uint32_t>> out;
+        for (const auto &t : traces()) out.emplace_back(t.func, t.result);
         return out;
-    }
-    bool traced(const char *func, uint32_t result) const {
-        for (const auto &t : traces())
-            if (func == std::string(t.func) && t.result == result) return true;
-        return false;
     }
 };
 
@@ -76,18 +76,18 @@ TEST_F(VlanTest, RemovingAnEntryInTheMiddlePacksTheTable) {
     expect_entry(1, 1, 0x02, 30);
     expect_entry(2, 1, 0x02, 40);
     expect_entry(3, 0, 0, 0);
-    EXPECT_EQ(trace_funcs(), (std::vector<std::string>{"ze_lsw_vlan_inner_cfg_sort", "ze_lsw_vlan_del_port"}));
+    EXPECT_THAT(trace_log(), ElementsAre(Pair("ze_lsw_vlan_inner_cfg_sort", 0), Pair("ze_lsw_vlan_del_port", 0)));
 }
 
 TEST_F(VlanTest, AFullShadowDoesNotFailTheAdd) {
     for (uint32_t i = 0; i < ZE_VLAN_CFG_COUNT; ++i) uc_port_vlan_cfg[i] = {1, 1, static_cast<uint16_t>(i)};
     EXPECT_EQ(ze_lsw_vlan_add_port(5000, 2), 0u);  // 5000 fits no u16 entry of 0..4095
     EXPECT_EQ(member(5000, 2), 1u);
-    EXPECT_TRUE(traced("ze_lsw_vlan_inner_save_cfg", ZE_ERR_FULL));
+    EXPECT_THAT(trace_log(), Contains(Pair("ze_lsw_vlan_inner_save_cfg", ZE_ERR_FULL)));
     // A VLAN never recorded cancels nothing and the delete still succeeds.
     std::memset(uc_port_vlan_cfg, 0, sizeof uc_port_vlan_cfg);
     EXPECT_EQ(ze_lsw_vlan_del_port(77, 1), 0u);
-    EXPECT_TRUE(traced("ze_lsw_vlan_inner_cancel_cfg", ZE_ERR_NOT_FOUND));
+    EXPECT_THAT(trace_log(), Contains(Pair("ze_lsw_vlan_inner_cancel_cfg", ZE_ERR_NOT_FOUND)));
 }
 
 // Failures leave the shadow alone; the member read's failure is not seen by
@@ -202,7 +202,7 @@ TEST_F(VlanTest, DiagnoseListsVlansWithMembersAndTagModes) {
     zesim::fail(0x343, 0x1234);
     EXPECT_EQ(ze_lsw_vlan_diagnose(0), 0u);
     EXPECT_EQ(console(), head);
-    EXPECT_TRUE(traced("ze_lsw_vlan_inner_printfvlaninfo", 0xffffffffu));
+    EXPECT_THAT(trace_log(), Contains(Pair("ze_lsw_vlan_inner_printfvlaninfo", 0xffffffffu)));
 }
 
 }  // namespace
