@@ -29,6 +29,18 @@ struct FilterModeWithSpill : FilterMode {
     static constexpr uint32_t kSize = 72;
 };
 
+// Get, change, set, leaving the trace record to the caller; a failed read
+// stops before the write.
+template <class L, class Edit>
+uint32_t modify(ze::Block<L> &b, Edit &&edit) {
+    uint32_t r = ze::dp_read(b);
+    if (r == ZE_OK) {
+        edit(b);
+        r = ze::dp_write(b);
+    }
+    return r;
+}
+
 // Records an added port in the VLAN's shadow entry or cancels a deleted one;
 // the shadow's own result does not reach the caller.
 void record(uint32_t vlan, uint32_t port, bool add) {
@@ -43,11 +55,9 @@ void record(uint32_t vlan, uint32_t port, bool add) {
 uint32_t change_member(const ze::TraceSite &site, uint32_t vlan, uint32_t port, bool add) {
     ze::Block<VlanMember> b;
     b.set(VlanMember::vlan, vlan);
-    uint32_t r = ze::dp_read(b);
-    if (r == ZE_OK) {
-        if (port < VlanMember::kPorts) b.set_word(VlanMember::member(port), add ? 1 : 0);
-        r = ze::dp_write(b);
-    }
+    uint32_t r = modify(b, [&](auto &blk) {
+        if (port < VlanMember::kPorts) blk.set_word(VlanMember::member(port), add ? 1 : 0);
+    });
     if (r == ZE_OK) record(vlan, port, add);
     return ze::traced(site, r);
 }
@@ -121,11 +131,9 @@ uint32_t ze_lsw_vlan_get_hybrid_tagmode(uint32_t vlan, uint32_t port, uint8_t *m
 uint32_t ze_lsw_vlan_set_hybrid_tagmode(uint32_t vlan, uint32_t port, uint32_t mode) {
     ze::Block<HybridTag> b;
     b.set(HybridTag::vlan, vlan);
-    uint32_t r = ze::dp_read(b);
-    if (r == ZE_OK) {
-        if (port < HybridTag::kSettablePorts) b.set_word(HybridTag::mode(port), mode);
-        r = ze::dp_write(b);
-    }
+    uint32_t r = modify(b, [&](auto &blk) {
+        if (port < HybridTag::kSettablePorts) blk.set_word(HybridTag::mode(port), mode);
+    });
     return r ? ze::traced(ZE_SITE, r) : ZE_OK;
 }
 
