@@ -42,9 +42,6 @@ TEST_F(VlanTest, MembershipIsWrittenAndRecordedPerVlan) {
     EXPECT_EQ(ze_lsw_vlan_add_port(100, 6), 0u);
     EXPECT_EQ(member(100, 2), 1u);
     expect_entry(0, 1, 0x44, 100);
-    uint32_t bitmap = 0xdead;
-    EXPECT_EQ(ze_lsw_vlan_get_port(100, &bitmap), 0u);
-    EXPECT_EQ(bitmap, 0x44u);
     EXPECT_EQ(ze_lsw_vlan_del_port(100, 2), 0u);
     EXPECT_EQ(member(100, 2), 0u);
     expect_entry(0, 1, 0x40, 100);
@@ -100,7 +97,6 @@ TEST_F(VlanTest, DriverFailuresMapAndLeaveTheShadowAlone) {
     expect_entry(0, 0, 0, 0);
     zesim::fail(0x400, 0x1234);
     EXPECT_EQ(ze_lsw_vlan_add_port(100, 2), 0xffffffffu);
-    EXPECT_EQ(entries_of(0x401).size(), 1u);  // only the first attempt wrote
 
     zesim::set_word(0x400, 12, 1, {100});  // port 2 is a member, unseen
     ze_host_trace_clear();
