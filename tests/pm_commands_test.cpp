@@ -91,6 +91,9 @@ TEST_F(PmCommands, ShellFillsAndSetsCounters) {
     EXPECT_TRUE(run_line("sim counters set 3371 16 5"));
     EXPECT_EQ(zesim::word(3371, 16), 5u);
     EXPECT_EQ(zesim::word(3371, 20), 0u);
+    EXPECT_TRUE(run_line("sim counters set 3333 12 0x100000005"));  // the block's last word
+    EXPECT_EQ(zesim::word(3333, 12), 5u);
+    EXPECT_FALSE(run_line("sim counters set 3333 16 1"));
     EXPECT_FALSE(run_line("sim counters set 3371 16"));
     EXPECT_FALSE(run_line("sim counters set 0x9999 0 1"));
 }

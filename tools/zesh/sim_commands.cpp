@@ -186,11 +186,10 @@ bool sim_counters(Shell &sh, const std::vector<std::string> &args) {
     if (!numbers(sh, {args[3], args[4]}, 0, v) || !block_exists(sh, v[0])) return false;
     std::vector<uint32_t> key;
     if (args.size() == 7 && !numbers(sh, {args[6]}, 0, key)) return false;
-    if (key.empty())
-        zesim::set_counter(v[0], v[1], value);
-    else
-        zesim::set_counter(v[0], v[1], value, {key[0]});
-    return true;
+    const bool set = key.empty() ? zesim::set_counter(v[0], v[1], value)
+                                 : zesim::set_counter(v[0], v[1], value, {key[0]});
+    if (!set) sh.out() << "sim: offset " << v[1] << " lies outside block " << v[0] << "\n";
+    return set;
 }
 
 const SimCommand kSimCommands[] = {
