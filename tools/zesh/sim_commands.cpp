@@ -135,6 +135,11 @@ bool sim_set(Shell &sh, const std::vector<std::string> &args) {
         if (args.size() < 5) sh.out() << "usage: sim set CMD OFFSET VALUE [KEY...]\n";
         return false;
     }
+    uint32_t length = zesim::find_block(v[0])->length;
+    if (v[1] > length || length - v[1] < 4) {
+        sh.out() << "sim: offset " << v[1] << " lies outside the " << length << "-byte block\n";
+        return false;
+    }
     with_keys(v, 3, [&](std::initializer_list<uint32_t> k) { zesim::set_word(v[0], v[1], v[2], k); });
     return true;
 }
