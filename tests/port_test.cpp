@@ -40,34 +40,35 @@ const struct {
     const char *name;
     uint32_t (*set)(uint32_t, uint32_t);
     Get get;
-    uint32_t offset, got;  // what the getter returns of 0x12345678
+    uint32_t offset, mask;  // the getter returns the word under the mask
     bool eth_only;         // refuses every other port, traced
 } kUniWords[] = {
-    {"workmode", ze_lsw_port_set_workmode, ze_lsw_port_get_workmode, 16, 0x12345678, true},
-    {"loopback", ze_lsw_port_set_loopback, ze_lsw_port_get_loopback, 32, 0x12345678, true},
-    {"pause", ze_lsw_port_set_pause, narrow<uint8_t, ze_lsw_port_get_pause>, 136, 0x78, true},
+    {"workmode", ze_lsw_port_set_workmode, ze_lsw_port_get_workmode, 16, 0xffffffff, true},
+    {"loopback", ze_lsw_port_set_loopback, ze_lsw_port_get_loopback, 32, 0xffffffff, true},
+    {"pause", ze_lsw_port_set_pause, narrow<uint8_t, ze_lsw_port_get_pause>, 136, 0xff, true},
     {"uni tag act", [](uint32_t p, uint32_t v) { return ze_lsw_port_set_uni_tag_act(p, 0, 0, v); },
-     [](uint32_t p, uint32_t *v) { return ze_lsw_port_get_tag_act(p, 0, 0, v); }, 60, 0x12345678, true},
-    {"status", ze_lsw_port_set_status, narrow<uint8_t, ze_lsw_port_get_status>, 4, 0x78, false},
-    {"defvlan", ze_lsw_port_set_defvlan, narrow<uint16_t, ze_lsw_port_get_defvlan>, 88, 0x5678, false},
-    {"defpri", ze_lsw_port_set_defpri, narrow<uint8_t, ze_lsw_port_get_defpri>, 96, 0x78, false},
+     [](uint32_t p, uint32_t *v) { return ze_lsw_port_get_tag_act(p, 0, 0, v); }, 60, 0xffffffff, true},
+    {"status", ze_lsw_port_set_status, narrow<uint8_t, ze_lsw_port_get_status>, 4, 0xff, false},
+    {"defvlan", ze_lsw_port_set_defvlan, narrow<uint16_t, ze_lsw_port_get_defvlan>, 88, 0xffff, false},
+    {"defpri", ze_lsw_port_set_defpri, narrow<uint8_t, ze_lsw_port_get_defpri>, 96, 0xff, false},
 };
 
 TEST_F(Port, EthernetWordsLandInTheRightPortAndCarryTheRest) {
     for (const auto &w : kUniWords) {
         zesim::set_word(0x320, 180, 0xc0ffee, {3});
         zesim::clear_log();
-        ASSERT_EQ(w.set(3, 0x12345678), 0u) << w.name;
+        const uint32_t value = 0x12345600 + w.offset;  // a value of its own per word
+        ASSERT_EQ(w.set(3, value), 0u) << w.name;
         EXPECT_EQ(commands(), (Ids{0x320, 0x321})) << w.name;
-        EXPECT_EQ(zesim::word(0x320, w.offset, {3}), 0x12345678u) << w.name;
+        EXPECT_EQ(zesim::word(0x320, w.offset, {3}), value) << w.name;
         EXPECT_EQ(zesim::word(0x320, 180, {3}), 0xc0ffeeu) << w.name;
         EXPECT_EQ(zesim::word(0x320, w.offset, {2}), w.offset == 4 || w.offset == 88 ? 1u : 0u)
             << w.name << ": another port changed";
         uint32_t v = 0;
         ASSERT_EQ(w.get(3, &v), 0u) << w.name;
-        EXPECT_EQ(v, w.got) << w.name;
+        EXPECT_EQ(v, value & w.mask) << w.name;
     }
-    EXPECT_EQ(zesim::word(0x320, 152, {3}), 0x12345678u) << "the second pause word";
+    EXPECT_EQ(zesim::word(0x320, 152, {3}), 0x12345600u + 136) << "the second pause word";
     zesim::set_word(0x320, 184, 3, {4});
     uint32_t state = 0;
     ASSERT_EQ(ze_lsw_port_get_stpstate(4, &state), 0u);
@@ -135,6 +136,9 @@ TEST_F(Port, DriverInvalidParameterIsEighteenExceptWhereFolded) {
     EXPECT_EQ(ze_lsw_port_set_tag_act(1, 0, 0, 1), ZE_ERR_FAIL);
     EXPECT_EQ(ze_lsw_port_set_status(1, 1), ZE_ERR_FAIL);
     EXPECT_TRUE(traced_as("ze_lsw_eth_set_status"));
+    uint8_t s = 0;
+    EXPECT_EQ(ze_lsw_port_get_status(1, &s), ZE_ERR_FAIL);
+    EXPECT_EQ(traces().end()[-2].result, ZE_ERR_PARAM) << "the variant traces its own 18";
     EXPECT_EQ(traces().back().result, ZE_ERR_FAIL);
     zesim::fail(0x310, ZE_DRV_INVALID_PARAM);
     EXPECT_EQ(ze_lsw_port_set_defvlan(6, 1), ZE_ERR_PARAM);
@@ -172,6 +176,7 @@ TEST_F(Port, TagActionVariantsAcceptOnlyTheirPortsAndIgnoreUnknownPairs) {
     EXPECT_TRUE(traces().empty()) << "the NNI refusal is untraced";
     for (uint32_t port : {6u, 7u, 9u}) EXPECT_EQ(ze_lsw_port_set_tag_act(port, 0, 0, 1), ZE_ERR_FAIL) << port;
     EXPECT_TRUE(zesim::log().empty());
+    EXPECT_TRUE(traced_as("ze_lsw_port_set_cpu_tag_act")) << "port 6 goes to the CPU variant";
     // The CPU block is reached only directly, with an Ethernet number.
     ASSERT_EQ(ze_lsw_port_set_cpu_tag_act(2, 1, 1, 7), 0u);
     EXPECT_EQ(commands(), (Ids{0x310, 0x311}));
@@ -232,7 +237,10 @@ TEST_F(Port, StatusAndDefaultsDispatchByPortKindAndUpMode) {
     EXPECT_EQ(s, 0x5a);
     uint16_t v = 0;
     EXPECT_EQ(ze_lsw_port_get_defvlan(9, &v), ZE_ERR_FAIL);
+    ze_host_trace_clear();
     EXPECT_EQ(ze_lsw_port_get_status(2, nullptr), ZE_ERR_FAIL);
+    ASSERT_EQ(traces().size(), 2u) << "the variant traces the null output";
+    EXPECT_EQ(traces()[0].result, ZE_ERR_FAIL);
     zesim::fail(0x100, ZE_DRV_INVALID_PARAM);
     EXPECT_EQ(ze_lsw_port_get_status(5, &s), ZE_ERR_FAIL);
 }
