@@ -97,15 +97,13 @@ TEST_F(Port, EthernetOnlyAttributesRefusePonAndBeyond) {
 }
 
 TEST_F(Port, NullOutputsAreRefusedUntraced) {
-    EXPECT_EQ(ze_lsw_port_get_workmode(0, nullptr), ZE_ERR_NULL_PTR);
-    EXPECT_EQ(ze_lsw_port_get_pause(0, nullptr), ZE_ERR_NULL_PTR);
-    EXPECT_EQ(ze_lsw_port_get_loopback(0, nullptr), ZE_ERR_NULL_PTR);
-    EXPECT_EQ(ze_lsw_port_get_stpstate(0, nullptr), ZE_ERR_NULL_PTR);
-    EXPECT_EQ(ze_lsw_port_get_stp(nullptr), ZE_ERR_NULL_PTR);
-    EXPECT_EQ(ze_lsw_port_get_mtu(0, nullptr), ZE_ERR_NULL_PTR);
-    EXPECT_EQ(ze_lsw_port_get_tag_act(0, 0, 0, nullptr), ZE_ERR_NULL_PTR);
-    EXPECT_EQ(ze_lsw_port_get_defvlan(0, nullptr), ZE_ERR_NULL_PTR);
-    EXPECT_EQ(ze_lsw_port_get_defpri(0, nullptr), ZE_ERR_NULL_PTR);
+    const uint32_t results[] = {
+        ze_lsw_port_get_workmode(0, nullptr), ze_lsw_port_get_pause(0, nullptr),
+        ze_lsw_port_get_loopback(0, nullptr), ze_lsw_port_get_stpstate(0, nullptr),
+        ze_lsw_port_get_stp(nullptr),         ze_lsw_port_get_mtu(0, nullptr),
+        ze_lsw_port_get_tag_act(0, 0, 0, nullptr), ze_lsw_port_get_defvlan(0, nullptr),
+        ze_lsw_port_get_defpri(0, nullptr)};
+    for (size_t i = 0; i < std::size(results); ++i) EXPECT_EQ(results[i], ZE_ERR_NULL_PTR) << "getter " << i;
     EXPECT_TRUE(traces().empty());
     EXPECT_TRUE(zesim::log().empty());
 }
