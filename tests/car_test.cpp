@@ -1,7 +1,7 @@
 // Simple, protocol, to-CPU and Ethernet CAR, and the WRED start-up.
 #include <vector>
 
-#include "test_support.h"
+#include "rate_support.h"
 #include "ze_lsw_car.h"
 
 namespace {
@@ -9,13 +9,14 @@ namespace {
 using Car = zetest::SimTest;
 using zetest::entries_of;
 using zetest::word_at;
-
-constexpr uint32_t kBusy = 0xf0000101;
+using zetest::Words;
+using zetest::kBusy;
+using zetest::words;
 
 TEST_F(Car, SimpleCarKindsWriteTheirSlots) {
     const struct {
         uint32_t kind;
-        std::vector<uint32_t> slots;
+        Words slots;
     } cases[] = {{0, {48, 60}}, {1, {0}}, {2, {24, 36}}, {3, {12}}, {7, {}}};
     for (const auto &c : cases) {
         zesim::reset();
@@ -23,10 +24,10 @@ TEST_F(Car, SimpleCarKindsWriteTheirSlots) {
         for (uint32_t i = 0; i < 72; ++i) before[i] = static_cast<uint8_t>(i + 1);
         zesim::store(0xa00, before);
         ASSERT_EQ(ze_lsw_car_set_simple_car(c.kind, 0x1ff, 22, 33), 0u);
-        EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xa00, 0xa01}));
+        EXPECT_EQ(zesim::commands(), (Words{0xa00, 0xa01}));
         zesim::Bytes expected = before;
         for (uint32_t off : c.slots) {
-            zesim::Bytes vals{0xff, 1, 0, 0, 22, 0, 0, 0, 33, 0, 0, 0};
+            const zesim::Bytes vals{0xff, 1, 0, 0, 22, 0, 0, 0, 33, 0, 0, 0};
             std::copy(vals.begin(), vals.end(), expected.begin() + off);
         }
         EXPECT_EQ(zesim::block(0xa00), expected) << "kind " << c.kind;
@@ -34,40 +35,35 @@ TEST_F(Car, SimpleCarKindsWriteTheirSlots) {
         uint8_t v1 = 9;
         uint32_t v2 = 9, v3 = 9;
         ASSERT_EQ(ze_lsw_car_get_simple_car(c.kind, &v1, &v2, &v3), 0u);
-        if (c.slots.empty()) {
-            EXPECT_EQ((std::vector<uint32_t>{v1, v2, v3}), (std::vector<uint32_t>{9, 9, 9}));
-        } else {
-            EXPECT_EQ((std::vector<uint32_t>{v1, v2, v3}), (std::vector<uint32_t>{0xff, 22, 33}));
-        }
+        EXPECT_EQ((Words{v1, v2, v3}), (c.slots.empty() ? Words{9, 9, 9} : Words{0xff, 22, 33}));
     }
 }
 
-TEST_F(Car, ProtocolCarStartsFromEntryZero) {
+TEST_F(Car, ProtocolEntries) {
+    // Setting a CAR starts from entry 0's block, whose other fields the
+    // entry takes over.
     zesim::Bytes entry0(60, 0);
     entry0[20] = 0x44;  // CAR of sub-entry 2
     entry0[40] = 0x55;  // action of sub-entry 1
     zesim::store(0x604, entry0);
     ASSERT_EQ(ze_lsw_car_set_protocol_paket_car(3, 0, 0x1e), 0u);
-    EXPECT_EQ(word_at(entries_of(0x604)[0].sent, 0), 0u);  // read as entry 0
-    auto e3 = zesim::block(0x604, {3});
-    EXPECT_EQ(word_at(e3, 0), 3u);
-    EXPECT_EQ(word_at(e3, 12), 0x1eu);
-    EXPECT_EQ(word_at(e3, 20), 0x44u);
-    EXPECT_EQ(word_at(e3, 40), 0x55u);
-    EXPECT_EQ(word_at(zesim::block(0x604, {0}), 12), 0u);  // entry 0 unchanged
-
+    EXPECT_EQ(word_at(entries_of(0x604)[0].sent, 0), 0u);
+    EXPECT_EQ(words(zesim::block(0x604, {3}), {0, 12, 20, 40}), (Words{3, 0x1e, 0x44, 0x55}));
+    EXPECT_EQ(word_at(zesim::block(0x604, {0}), 12), 0u);
     uint8_t car = 0;
     ASSERT_EQ(ze_lsw_car_get_protocol_paket_car(3, 0, &car), 0u);
     EXPECT_EQ(car, 0x1e);
-}
 
-TEST_F(Car, ProtocolActionIsPerEntryAndBounded) {
+    // The action is read and written under the entry itself.
+    zesim::clear_log();
     ASSERT_EQ(ze_lsw_car_set_protocol_paket_action(4, 5, 0xabc), 0u);
     EXPECT_EQ(word_at(entries_of(0x604)[0].sent, 0), 4u);
     EXPECT_EQ(zesim::word(0x604, 56, {4}), 0xabcu);
     uint32_t action = 0;
     ASSERT_EQ(ze_lsw_car_get_protocol_paket_action(4, 5, &action), 0u);
     EXPECT_EQ(action, 0xabcu);
+
+    // Sub-entries whose word would lie beyond the block.
     zesim::clear_log();
     EXPECT_EQ(ze_lsw_car_set_protocol_paket_action(4, 6, 1), ZE_ERR_PARAM);
     EXPECT_EQ(ze_lsw_car_set_protocol_paket_car(4, 12, 1), ZE_ERR_PARAM);
@@ -77,24 +73,28 @@ TEST_F(Car, ProtocolActionIsPerEntryAndBounded) {
 TEST_F(Car, TocpuReasonCarGoesThroughTheReasonsCarIndex) {
     zesim::set_word(0xa05, 20, 6, {9});
     ASSERT_EQ(ze_lsw_car_set_tocpu_reason_car(9, 0x101, 2, 3), 0u);
-    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xa05, 0xa04, 0xa07, 0xa06}));
-    auto reason = zesim::block(0xa05, {9});
-    EXPECT_EQ(word_at(reason, 4), 1u);
-    EXPECT_EQ(word_at(reason, 16), 1u);
-    auto car = zesim::block(0xa07, {6});
-    EXPECT_EQ(word_at(car, 4), 0x101u);
-    EXPECT_EQ(word_at(car, 8), 3u);
-    EXPECT_EQ(word_at(car, 12), 2u);
-
+    EXPECT_EQ(zesim::commands(), (Words{0xa05, 0xa04, 0xa07, 0xa06}));
+    EXPECT_EQ(words(zesim::block(0xa05, {9}), {4, 16}), (Words{1, 1}));
+    EXPECT_EQ(words(zesim::block(0xa07, {6}), {4, 8, 12}), (Words{0x101, 3, 2}));
     uint8_t v1 = 0;
     uint32_t v2 = 0, v3 = 0;
     ASSERT_EQ(ze_lsw_car_get_tocpu_reason_car(9, &v1, &v2, &v3), 0u);
-    EXPECT_EQ((std::vector<uint32_t>{v1, v2, v3}), (std::vector<uint32_t>{1, 2, 3}));
+    EXPECT_EQ((Words{v1, v2, v3}), (Words{1, 2, 3}));
 
     zesim::fail(0xa04, kBusy);
     zesim::clear_log();
     EXPECT_EQ(ze_lsw_car_set_tocpu_reason_car(9, 1, 2, 3), ZE_ERR_PARAM);
-    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xa05, 0xa04}));
+    EXPECT_EQ(zesim::commands(), (Words{0xa05, 0xa04}));
+}
+
+TEST_F(Car, EfcCarSwapsValuesTwoAndThreeWithoutReading) {
+    ASSERT_EQ(ze_lsw_car_set_efc_car(40, 0x1ab, 2, 3), 0u);
+    EXPECT_EQ(zesim::commands(), (Words{0xa03}));
+    EXPECT_EQ(words(zesim::block(0xa03, {40}), {4, 8, 12}), (Words{0x1ab, 3, 2}));
+    uint8_t v1 = 0;
+    uint32_t v2 = 0, v3 = 0;
+    ASSERT_EQ(ze_lsw_car_get_efc_car(40, &v1, &v2, &v3), 0u);
+    EXPECT_EQ((Words{v1, v2, v3}), (Words{0xab, 2, 3}));
 }
 
 TEST_F(Car, NullOutputsAreRefusedWithoutDriverAccess) {
@@ -114,15 +114,11 @@ TEST_F(Car, EthCarIngressEgressAndOther) {
     const uint32_t params[4] = {10, 11, 12, 13};
     zesim::set_word(0x320, 100, 0x77, {2});
     ASSERT_EQ(ze_lsw_car_set_eth_car(2, 0, params), 0u);
-    auto port = zesim::block(0x320, {2});
-    EXPECT_EQ(word_at(port, 148), 1u);
-    EXPECT_EQ(word_at(port, 156), 13u);
-    EXPECT_EQ(word_at(port, 164), 11u);
-    EXPECT_EQ(word_at(port, 100), 0x77u);
+    EXPECT_EQ(words(zesim::block(0x320, {2}), {148, 156, 164, 100}), (Words{1, 13, 11, 0x77}));
 
     zesim::clear_log();
     ASSERT_EQ(ze_lsw_car_set_eth_car(2, 1, params), 0u);
-    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{2587, 2586}));
+    EXPECT_EQ(zesim::commands(), (Words{2587, 2586}));
     EXPECT_EQ(zesim::word(2587, 20, {10}), 11u);
 
     zesim::clear_log();
@@ -134,33 +130,19 @@ TEST_F(Car, EthCarIngressEgressAndOther) {
     EXPECT_EQ(ze_lsw_car_set_eth_car(2, 1, params), ZE_ERR_FAIL);
 }
 
-TEST_F(Car, EfcCarSwapsValuesTwoAndThree) {
-    ASSERT_EQ(ze_lsw_car_set_efc_car(40, 0x1ab, 2, 3), 0u);
-    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xa03}));
-    auto b = zesim::block(0xa03, {40});
-    EXPECT_EQ(word_at(b, 4), 0x1abu);
-    EXPECT_EQ(word_at(b, 8), 3u);
-    EXPECT_EQ(word_at(b, 12), 2u);
-    uint8_t v1 = 0;
-    uint32_t v2 = 0, v3 = 0;
-    ASSERT_EQ(ze_lsw_car_get_efc_car(40, &v1, &v2, &v3), 0u);
-    EXPECT_EQ((std::vector<uint32_t>{v1, v2, v3}), (std::vector<uint32_t>{0xab, 2, 3}));
-}
-
 TEST_F(Car, InitWredWritesBothTablesAndFreesEveryProfile) {
     zesim::set_word(0xa0b, 4, 5, {77});
     ASSERT_EQ(ze_lsw_car_init_wred(), 0u);
-    auto big = entries_of(0xa16), small = entries_of(0xa18), prof = entries_of(0xa0a);
-    ASSERT_EQ(big.size(), 16u);
-    ASSERT_EQ(small.size(), 4u);
-    ASSERT_EQ(prof.size(), 128u);
-    const uint32_t startup[11] = {0, 6, 2, 0, 0, 0, 0, 100, 100, 100, 100};
-    for (uint32_t i = 0; i < 11; ++i) {
-        EXPECT_EQ(word_at(big[15].sent, 4 * i), i ? startup[i] : 15u) << i;
-        EXPECT_EQ(word_at(small[3].sent, 4 * i), i ? startup[i] : 3u) << i;
+    EXPECT_EQ(entries_of(0xa0a).size(), 128u);
+    EXPECT_EQ(zesim::commands().size(), 16u + 4 + 128);
+    const Words startup{6, 2, 0, 0, 0, 0, 100, 100, 100, 100};
+    for (auto [cmd, count] : {std::pair{0xa16u, 16u}, {0xa18u, 4u}}) {
+        auto sent = entries_of(cmd);
+        ASSERT_EQ(sent.size(), count);
+        EXPECT_EQ(word_at(sent.back().sent, 0), count - 1);
+        EXPECT_EQ(words(sent.back().sent, {4, 8, 12, 16, 20, 24, 28, 32, 36, 40}), startup);
     }
     EXPECT_EQ(zesim::word(0xa0b, 4, {77}), 0u);
-    EXPECT_EQ(zesim::commands().size(), 16u + 4 + 128);
 }
 
 TEST_F(Car, InitWredFailures) {
