@@ -40,7 +40,7 @@ enum : uint32_t { kEthIngress = 0, kEthEgress = 1 };
 
 // WRED start-up profiles: 16 entries of the first table, 4 of the second.
 constexpr uint32_t kWredEntries = 16, kWredSmallEntries = 4;
-constexpr uint32_t kWredStartup[10] = {6, 2, 0, 0, 0, 0, 100, 100, 100, 100};  // words 1..10
+constexpr uint32_t kWredStartup[] = {6, 2, 0, 0, 0, 0, 100, 100, 100, 100};  // words 1..10
 
 // Offset of sub-entry `sub`'s word in a protocol block, or 0 when the word
 // would lie outside the block.
@@ -61,7 +61,7 @@ uint32_t read_protocol_word(const ze::TraceSite &site, uint32_t entry, uint32_t 
 
 uint32_t write_wred_table(uint32_t cmd, uint32_t entries) {
     ze::Block<QosWred> b;
-    for (uint32_t i = 0; i < 10; ++i) b.set_word(4 + 4 * i, kWredStartup[i]);
+    for (uint32_t i = 0; i < sizeof kWredStartup / 4; ++i) b.set_word(4 + 4 * i, kWredStartup[i]);
     for (uint32_t e = 0; e < entries; ++e) {
         b.set(QosWred::index, e);
         uint32_t r = ze::dp_send(cmd, b.data(), QosWred::kSize);
