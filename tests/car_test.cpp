@@ -13,55 +13,57 @@ using zetest::Words;
 using zetest::kBusy;
 using zetest::words;
 
-TEST_F(Car, SimpleCarKindsWriteTheirSlots) {
-    const struct {
-        uint32_t kind;
-        Words slots;
-    } cases[] = {{0, {48, 60}}, {1, {0}}, {2, {24, 36}}, {3, {12}}, {7, {}}};
-    for (const auto &c : cases) {
-        zesim::reset();
-        zesim::Bytes before(72);
-        for (uint32_t i = 0; i < 72; ++i) before[i] = static_cast<uint8_t>(i + 1);
-        zesim::store(0xa00, before);
-        ASSERT_EQ(ze_lsw_car_set_simple_car(c.kind, 0x1ff, 22, 33), 0u);
-        EXPECT_EQ(zesim::commands(), (Words{0xa00, 0xa01}));
-        zesim::Bytes expected = before;
-        for (uint32_t off : c.slots) {
-            const zesim::Bytes vals{0xff, 1, 0, 0, 22, 0, 0, 0, 33, 0, 0, 0};
-            std::copy(vals.begin(), vals.end(), expected.begin() + off);
-        }
-        EXPECT_EQ(zesim::block(0xa00), expected) << "kind " << c.kind;
+TEST_F(Car, SingleBlockSettersChangeOnlyTheirOwnFields) {
+    const uint32_t eth[4] = {10, 11, 12, 13};
+    auto simple = [](uint32_t kind) {
+        return [kind] { return ze_lsw_car_set_simple_car(kind, 0x1ff, 22, 33); };
+    };
+    auto slots = [](std::initializer_list<uint32_t> offsets) {
+        zetest::Fields f;
+        for (uint32_t o : offsets) f.insert({{o, 0x1ff}, {o + 4, 22}, {o + 8, 33}});
+        return f;
+    };
+    const zetest::Rmw cases[] = {
+        // Simple CAR kinds: 0 and 2 write two slots, an unknown kind none.
+        {0xa00, 0xa01, 72, {}, simple(0), slots({48, 60})},
+        {0xa00, 0xa01, 72, {}, simple(1), slots({0})},
+        {0xa00, 0xa01, 72, {}, simple(2), slots({24, 36})},
+        {0xa00, 0xa01, 72, {}, simple(3), slots({12})},
+        {0xa00, 0xa01, 72, {}, simple(7), {}},
+        {0x604, 0x605, 60, {{0, 4}},
+         [] { return ze_lsw_car_set_protocol_paket_action(4, 5, 0xabc); }, {{56, 0xabc}}},
+        // Ingress Ethernet CAR: words 3 and 1 of the parameters.
+        {0x320, 0x321, 188, {{0, 2}}, [&] { return ze_lsw_car_set_eth_car(2, 0, eth); },
+         {{148, 1}, {156, 13}, {164, 11}}},
+    };
+    for (const auto &c : cases) zetest::expect_rmw(c);
 
+    // The getters read the slot of the kind (the first value as a byte) from
+    // the block the unknown kind wrote back as it was.
+    for (auto [kind, slot] : {std::pair{0u, 48u}, {1u, 0u}, {2u, 24u}, {3u, 12u}, {7u, 0u}}) {
         uint8_t v1 = 9;
         uint32_t v2 = 9, v3 = 9;
-        ASSERT_EQ(ze_lsw_car_get_simple_car(c.kind, &v1, &v2, &v3), 0u);
-        EXPECT_EQ((Words{v1, v2, v3}), (c.slots.empty() ? Words{9, 9, 9} : Words{0xff, 22, 33}));
+        ASSERT_EQ(ze_lsw_car_get_simple_car(kind, &v1, &v2, &v3), 0u);
+        const uint32_t w = 0xc0de0000 + slot;
+        const Words expected = kind == 7 ? Words{9, 9, 9} : Words{w & 0xff, w + 4, w + 8};
+        EXPECT_EQ((Words{v1, v2, v3}), expected) << kind;
     }
-}
-
-TEST_F(Car, ProtocolEntries) {
-    // Setting a CAR starts from entry 0's block, whose other fields the
-    // entry takes over.
-    zesim::Bytes entry0(60, 0);
-    entry0[20] = 0x44;  // CAR of sub-entry 2
-    entry0[40] = 0x55;  // action of sub-entry 1
-    zesim::store(0x604, entry0);
-    ASSERT_EQ(ze_lsw_car_set_protocol_paket_car(3, 0, 0x1e), 0u);
-    EXPECT_EQ(word_at(entries_of(0x604)[0].sent, 0), 0u);
-    EXPECT_EQ(words(zesim::block(0x604, {3}), {0, 12, 20, 40}), (Words{3, 0x1e, 0x44, 0x55}));
-    EXPECT_EQ(word_at(zesim::block(0x604, {0}), 12), 0u);
-    uint8_t car = 0;
-    ASSERT_EQ(ze_lsw_car_get_protocol_paket_car(3, 0, &car), 0u);
-    EXPECT_EQ(car, 0x1e);
-
-    // The action is read and written under the entry itself.
-    zesim::clear_log();
-    ASSERT_EQ(ze_lsw_car_set_protocol_paket_action(4, 5, 0xabc), 0u);
-    EXPECT_EQ(word_at(entries_of(0x604)[0].sent, 0), 4u);
-    EXPECT_EQ(zesim::word(0x604, 56, {4}), 0xabcu);
     uint32_t action = 0;
     ASSERT_EQ(ze_lsw_car_get_protocol_paket_action(4, 5, &action), 0u);
     EXPECT_EQ(action, 0xabcu);
+}
+
+TEST_F(Car, ProtocolCarStartsFromEntryZero) {
+    // Entry 0's other fields are carried into the entry.
+    zesim::store(0x604, zetest::patterned(60, {{0, 0}}));
+    ASSERT_EQ(ze_lsw_car_set_protocol_paket_car(3, 1, 0x1e), 0u);
+    EXPECT_EQ(word_at(entries_of(0x604)[0].sent, 0), 0u);
+    zesim::Bytes expected = zetest::patterned(60, {{0, 3}, {16, 0x1e}});
+    EXPECT_EQ(zesim::block(0x604, {3}), expected);
+    EXPECT_EQ(word_at(zesim::block(0x604, {0}), 16), 0xc0de0010u);
+    uint8_t car = 0;
+    ASSERT_EQ(ze_lsw_car_get_protocol_paket_car(3, 1, &car), 0u);
+    EXPECT_EQ(car, 0x1e);
 
     // Sub-entries whose word would lie beyond the block.
     zesim::clear_log();
@@ -110,13 +112,8 @@ TEST_F(Car, NullOutputsAreRefusedWithoutDriverAccess) {
     EXPECT_TRUE(traces().empty());
 }
 
-TEST_F(Car, EthCarIngressEgressAndOther) {
+TEST_F(Car, EthCarEgressGoesThroughTheShaperAndOtherDirectionsDoNothing) {
     const uint32_t params[4] = {10, 11, 12, 13};
-    zesim::set_word(0x320, 100, 0x77, {2});
-    ASSERT_EQ(ze_lsw_car_set_eth_car(2, 0, params), 0u);
-    EXPECT_EQ(words(zesim::block(0x320, {2}), {148, 156, 164, 100}), (Words{1, 13, 11, 0x77}));
-
-    zesim::clear_log();
     ASSERT_EQ(ze_lsw_car_set_eth_car(2, 1, params), 0u);
     EXPECT_EQ(zesim::commands(), (Words{2587, 2586}));
     EXPECT_EQ(zesim::word(2587, 20, {10}), 11u);

@@ -1,7 +1,11 @@
-// Helpers of the CAR and QoS tests: several words of a block at once.
+// Helpers of the CAR and QoS tests: several words of a block at once, and
+// the check of a read-modify-write of one block.
 #pragma once
 
+#include <cstring>
+#include <functional>
 #include <initializer_list>
+#include <map>
 #include <vector>
 
 #include "test_support.h"
@@ -9,6 +13,7 @@
 namespace zetest {
 
 using Words = std::vector<uint32_t>;
+using Fields = std::map<uint32_t, uint32_t>;  // offset -> word
 
 // The driver's busy answer, which the library reports as 18.
 inline constexpr uint32_t kBusy = 0xf0000101;
@@ -18,6 +23,41 @@ inline Words words(const zesim::Bytes &b, std::initializer_list<uint32_t> offset
     Words v;
     for (uint32_t off : offsets) v.push_back(word_at(b, off));
     return v;
+}
+
+inline void put(zesim::Bytes &b, const Fields &fields) {
+    for (auto [off, v] : fields) std::memcpy(&b[off], &v, 4);
+}
+
+// A block whose every word names its offset, but for the key words.
+inline zesim::Bytes patterned(uint32_t size, const Fields &keys) {
+    zesim::Bytes b(size);
+    for (uint32_t off = 0; off < size; off += 4) put(b, {{off, 0xc0de0000 + off}});
+    put(b, keys);
+    return b;
+}
+
+// A call that reads one block with its key alone and writes it back with
+// only `written` changed.
+struct Rmw {
+    uint32_t get, set, size;
+    Fields keys;
+    std::function<uint32_t()> call;
+    Fields written;
+};
+
+// Stores a patterned block under the case's key, runs the call and checks
+// the exchange.
+inline void expect_rmw(const Rmw &c) {
+    zesim::clear_log();
+    zesim::Bytes key(c.size), expected = patterned(c.size, c.keys);
+    zesim::store(c.get, expected);
+    put(key, c.keys);
+    put(expected, c.written);
+    ASSERT_EQ(c.call(), 0u) << c.set;
+    EXPECT_EQ(zesim::commands(), (Words{c.get, c.set}));
+    EXPECT_EQ(entries_of(c.get)[0].sent, key) << "read with the key alone, " << c.get;
+    EXPECT_EQ(entries_of(c.set)[0].sent, expected) << c.set;
 }
 
 }  // namespace zetest
