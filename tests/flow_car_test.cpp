@@ -41,7 +41,7 @@ protected:
 };
 
 TEST_F(FlowCar, SfidCarIsSetOnceAndEnablesTheClassifierEntry) {
-    zesim::set_word(0x506, 28, 0x123, {9});  // a classifier field that must survive
+    zesim::store(0x506, zetest::patterned(68, {{0, 9}}));
     ASSERT_EQ(ze_lsw_car_set_flow_car(9, 1, 2, 3, -4, 5, 6), 0u);
     EXPECT_EQ(zesim::commands(), (Words{0xa0b, 0xa0b, 0xa0a, 0xa33, 0xa32, 0x506, 0x507}));
     EXPECT_TRUE(traced_as("ze_lsw_car_get_fcar_index", 0));
@@ -49,7 +49,7 @@ TEST_F(FlowCar, SfidCarIsSetOnceAndEnablesTheClassifierEntry) {
               (Words{9, 1, 2, 3, 0xfffffffc, 5, 6}));
     EXPECT_EQ(words(zesim::block(0xa33, {9}), {4, 8}), (Words{1, 9}));
     // Entry enable and CAR enable on; the rest, entry valid included, kept.
-    EXPECT_EQ(words(zesim::block(0x506, {9}), {8, 64, 28, 4}), (Words{1, 1, 0x123, 0}));
+    EXPECT_EQ(zesim::block(0x506, {9}), zetest::patterned(68, {{0, 9}, {8, 1}, {64, 1}}));
 
     ze_lsw_car_param_s car{};
     ASSERT_EQ(ze_lsw_car_get_flow_car(9, &car), 0u);
