@@ -1,12 +1,9 @@
 // The CAR and QoS commands: how their requests reach the API, and the family
 // rule (the API's code passes through, the reply length is always set).
-#include <cstring>
 #include <string>
 #include <vector>
 
 #include "rate_support.h"
-#include "ze_lsw_car_shadow.h"
-#include "ze_lsw_flow_shadow.h"
 
 namespace {
 
@@ -14,13 +11,8 @@ using zetest::Words;
 
 constexpr uint32_t kUnset = 0xabcdu;
 
-class CarQosCommands : public zetest::SimTest {
+class CarQosCommands : public zetest::RateTest {
 protected:
-    void SetUp() override {
-        SimTest::SetUp();
-        std::memset(st_sfcmapping, 0, sizeof st_sfcmapping);
-        std::memset(g_st_fcar_status, 0, sizeof g_st_fcar_status);
-    }
     uint32_t run(const std::string &suffix, Words &words) {
         reply = kUnset;
         return call("ze_adapter_cli_" + suffix, words.data(), words.size() * 4, &reply);
@@ -43,9 +35,7 @@ TEST_F(CarQosCommands, ApiFailuresPassThroughAndTheReplyLengthIsStillSet) {
 }
 
 TEST_F(CarQosCommands, RequestFieldsReachTheApiAndOutputsLandInTheBuffer) {
-    st_sfcmapping[6].status = 1;  // an upstream flow of GEM port 40
-    st_sfcmapping[6].gemport = 40;
-    st_sfcmapping[6].mapping.igr = 0x01;
+    flow(6, 40, zetest::kUp);
     zesim::set_word(2577, 8, 55, {7});
     zesim::set_word(0xa02, 12, 9, {5});
     zesim::set_word(2579, 4 + 20 * 5 + 16, 0x1234, {2});

@@ -72,31 +72,26 @@ TEST_F(Car, ProtocolCarStartsFromEntryZero) {
     EXPECT_TRUE(zesim::log().empty());
 }
 
-TEST_F(Car, TocpuReasonCarGoesThroughTheReasonsCarIndex) {
-    zesim::set_word(0xa05, 20, 6, {9});
+// Both three-value CARs keep value 3 before value 2 in their block.
+TEST_F(Car, TocpuReasonAndEfcCars) {
+    zesim::set_word(0xa05, 20, 6, {9});  // reason 9 uses to-CPU CAR 6
     ASSERT_EQ(ze_lsw_car_set_tocpu_reason_car(9, 0x101, 2, 3), 0u);
-    EXPECT_EQ(zesim::commands(), (Words{0xa05, 0xa04, 0xa07, 0xa06}));
+    ASSERT_EQ(ze_lsw_car_set_efc_car(40, 0x1ab, 4, 5), 0u);  // no read first
+    EXPECT_EQ(zesim::commands(), (Words{0xa05, 0xa04, 0xa07, 0xa06, 0xa03}));
     EXPECT_EQ(words(zesim::block(0xa05, {9}), {4, 16}), (Words{1, 1}));
     EXPECT_EQ(words(zesim::block(0xa07, {6}), {4, 8, 12}), (Words{0x101, 3, 2}));
-    uint8_t v1 = 0;
-    uint32_t v2 = 0, v3 = 0;
+    EXPECT_EQ(words(zesim::block(0xa03, {40}), {4, 8, 12}), (Words{0x1ab, 5, 4}));
+    uint8_t v1 = 0, e1 = 0;
+    uint32_t v2 = 0, v3 = 0, e2 = 0, e3 = 0;
     ASSERT_EQ(ze_lsw_car_get_tocpu_reason_car(9, &v1, &v2, &v3), 0u);
-    EXPECT_EQ((Words{v1, v2, v3}), (Words{1, 2, 3}));
+    ASSERT_EQ(ze_lsw_car_get_efc_car(40, &e1, &e2, &e3), 0u);
+    EXPECT_EQ((Words{v1, v2, v3, e1, e2, e3}), (Words{1, 2, 3, 0xab, 4, 5}));
 
+    // A failed reason write stops before the CAR.
     zesim::fail(0xa04, kBusy);
     zesim::clear_log();
     EXPECT_EQ(ze_lsw_car_set_tocpu_reason_car(9, 1, 2, 3), ZE_ERR_PARAM);
     EXPECT_EQ(zesim::commands(), (Words{0xa05, 0xa04}));
-}
-
-TEST_F(Car, EfcCarSwapsValuesTwoAndThreeWithoutReading) {
-    ASSERT_EQ(ze_lsw_car_set_efc_car(40, 0x1ab, 2, 3), 0u);
-    EXPECT_EQ(zesim::commands(), (Words{0xa03}));
-    EXPECT_EQ(words(zesim::block(0xa03, {40}), {4, 8, 12}), (Words{0x1ab, 3, 2}));
-    uint8_t v1 = 0;
-    uint32_t v2 = 0, v3 = 0;
-    ASSERT_EQ(ze_lsw_car_get_efc_car(40, &v1, &v2, &v3), 0u);
-    EXPECT_EQ((Words{v1, v2, v3}), (Words{0xab, 2, 3}));
 }
 
 TEST_F(Car, NullOutputsAreRefusedWithoutDriverAccess) {

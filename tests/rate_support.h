@@ -1,5 +1,5 @@
-// Helpers of the CAR and QoS tests: several words of a block at once, and
-// the check of a read-modify-write of one block.
+// Helpers of the CAR and QoS tests: several words of a block at once, the
+// check of a read-modify-write of one block, and empty shadows.
 #pragma once
 
 #include <cstring>
@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "test_support.h"
+#include "ze_lsw_car_shadow.h"
+#include "ze_lsw_flow_shadow.h"
 
 namespace zetest {
 
@@ -59,5 +61,24 @@ inline void expect_rmw(const Rmw &c) {
     EXPECT_EQ(entries_of(c.get)[0].sent, key) << "read with the key alone, " << c.get;
     EXPECT_EQ(entries_of(c.set)[0].sent, expected) << c.set;
 }
+
+// Ingress bitmaps of a flow: a LAN port (upstream), the PON port (downstream).
+inline constexpr uint8_t kUp = 0x01, kDown = 0x20;
+
+// The SFC and flow CAR shadows are process globals: every test starts with
+// them empty.
+class RateTest : public SimTest {
+protected:
+    void SetUp() override {
+        SimTest::SetUp();
+        std::memset(st_sfcmapping, 0, sizeof st_sfcmapping);
+        std::memset(g_st_fcar_status, 0, sizeof g_st_fcar_status);
+    }
+    static void flow(uint32_t sfid, uint16_t gemport, uint8_t igr, uint8_t status = 1) {
+        st_sfcmapping[sfid].status = status;
+        st_sfcmapping[sfid].gemport = gemport;
+        st_sfcmapping[sfid].mapping.igr = igr;
+    }
+};
 
 }  // namespace zetest
