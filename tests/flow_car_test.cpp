@@ -52,10 +52,7 @@ TEST_F(FlowCar, SfidCarFailures) {
     zesim::fail(0x507, kBusy, 1);
     EXPECT_EQ(ze_lsw_car_set_flow_car(3, 1, 1, 1, 1, 1, 1), ZE_ERR_PARAM);
     EXPECT_EQ(word_at(zesim::block(0xa33, {3}), 8), 3u);
-    ze_lsw_car_param_s car{};
     EXPECT_EQ(ze_lsw_car_get_flow_car(3, nullptr), ZE_ERR_NULL_PTR);
-    zesim::fail(0xa33, 0x99, 1);
-    EXPECT_EQ(ze_lsw_car_get_flow_car(3, &car), ZE_ERR_FAIL);
 }
 
 TEST_F(FlowCar, GemportCarBindsOnlyTheFirstFlowCountTimes) {
@@ -89,10 +86,6 @@ TEST_F(FlowCar, GemportProfilesAreReusedOnlyForIdenticalRequests) {
         ASSERT_EQ(zesim::commands(), (Words{0xa0a}));
         EXPECT_EQ(word_at(entries_of(0xa0a)[0].sent, 0), s.index) << s.gemport << "/" << s.dir;
     }
-    // Profile freed elsewhere is found by its record: the lowest free one.
-    g_st_fcar_status[1].in_use = 0;
-    ASSERT_EQ(ze_lsw_car_set_gemport_car(200, 0, 1, 1, 1, 1, 1, 1), 0u);
-    EXPECT_EQ(g_st_fcar_status[1].gemport, 200);
 }
 
 TEST_F(FlowCar, GemportCarFailures) {
@@ -107,8 +100,6 @@ TEST_F(FlowCar, GemportCarFailures) {
     EXPECT_EQ(ze_lsw_car_set_gemport_car(100, 0, 1, 1, 1, 1, 1, 1), ZE_ERR_PARAM);
     EXPECT_EQ(g_st_fcar_status[0].in_use, 1);  // the record stays
 
-    uint32_t params[6] = {};
-    EXPECT_EQ(ze_lsw_car_get_gemport_car(999, 0, params), ZE_ERR_FAIL);  // no flow
     EXPECT_EQ(ze_lsw_car_get_gemport_car(100, 0, nullptr), ZE_ERR_NULL_PTR);
 }
 
