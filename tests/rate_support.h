@@ -8,9 +8,9 @@
 #include <map>
 #include <vector>
 
+#include "flow_fixture.h"
 #include "test_support.h"
 #include "ze_lsw_car_shadow.h"
-#include "ze_lsw_flow_shadow.h"
 
 namespace zetest {
 
@@ -65,13 +65,12 @@ inline void expect_rmw(const Rmw &c) {
 // Ingress bitmaps of a flow: a LAN port (upstream), the PON port (downstream).
 inline constexpr uint8_t kUp = 0x01, kDown = 0x20;
 
-// The SFC and flow CAR shadows are process globals: every test starts with
-// them empty.
-class RateTest : public SimTest {
+// The flow shadows and the flow CAR record are process globals: every test
+// starts with them empty.
+class RateTest : public FlowTest {
 protected:
     void SetUp() override {
-        SimTest::SetUp();
-        std::memset(st_sfcmapping, 0, sizeof st_sfcmapping);
+        FlowTest::SetUp();
         std::memset(g_st_fcar_status, 0, sizeof g_st_fcar_status);
     }
     static void flow(uint32_t sfid, uint16_t gemport, uint8_t igr, uint8_t status = 1) {
