@@ -290,6 +290,9 @@ TEST_F(EfcTest, ServiceShadowSearchAndRanges) {
     ze_efc_action_s a = action(4);
     uint16_t fid = 0;
     EXPECT_EQ(ze_lsw_flow_save_service(&r, &a, 2, 405), 18u);
+    ze_host_trace_rec t;
+    ASSERT_TRUE(last_trace_of("ze_lsw_flow_save_service", t));
+    EXPECT_EQ(t.v[0], 18u);  // the result, not the fid
     EXPECT_EQ(ze_lsw_flow_save_service(nullptr, &a, 2, 7), 31u);
     ASSERT_EQ(ze_lsw_flow_save_service(&r, &a, 2, 7), 0u);
     EXPECT_EQ(ze_lsw_flow_get_service_func(&r, &a, 2, &fid), 0u);
@@ -297,6 +300,8 @@ TEST_F(EfcTest, ServiceShadowSearchAndRanges) {
     EXPECT_EQ(ze_lsw_flow_get_service_func(&r, &a, 3, &fid), 14u);
     EXPECT_EQ(ze_lsw_flow_delete_service(405), 18u);
     EXPECT_EQ(ze_lsw_efc_get_status(405, nullptr, nullptr), 18u);
+    ASSERT_TRUE(last_trace_of("ze_lsw_efc_get_status", t));
+    EXPECT_EQ(t.v[0], 405u);  // the status read records the fid
     EXPECT_EQ(ze_lsw_efc_set_status(405, 1, 1), 18u);
 }
 
