@@ -2,6 +2,7 @@
 // shadow tables and half-item flag, and helpers that build records.
 #pragma once
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -13,21 +14,18 @@
 namespace zetest {
 
 inline ze_sfc_mapping_s vlan_mapping(uint16_t vlan, uint32_t mask = ZE_SFC_KEY_VLAN) {
-    ze_sfc_mapping_s m;
-    std::memset(&m, 0, sizeof m);
+    ze_sfc_mapping_s m{};  // padding zeroed too: searches compare every byte
     m.key_mask = mask;
     m.vlan = vlan;
     return m;
 }
 inline ze_efc_rule_s rule(uint32_t mask) {
-    ze_efc_rule_s r;
-    std::memset(&r, 0, sizeof r);
+    ze_efc_rule_s r{};
     r.key_mask = mask;
     return r;
 }
 inline ze_efc_action_s action(uint32_t mask = 0) {
-    ze_efc_action_s a;
-    std::memset(&a, 0, sizeof a);
+    ze_efc_action_s a{};
     a.act_mask = mask;
     return a;
 }
@@ -53,13 +51,10 @@ protected:
 
     // The last trace record of a function.
     bool last_trace_of(const std::string &func, ze_host_trace_rec &out) const {
-        bool found = false;
-        for (const ze_host_trace_rec &t : traces())
-            if (func == t.func) {
-                out = t;
-                found = true;
-            }
-        return found;
+        const auto &all = traces();
+        auto it = std::find_if(all.rbegin(), all.rend(), [&](const auto &t) { return func == t.func; });
+        if (it != all.rend()) out = *it;
+        return it != all.rend();
     }
 
     int64_t heap_at_start_ = 0;
