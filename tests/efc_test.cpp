@@ -13,6 +13,16 @@ using zetest::rule;
 using zetest::word_at;
 using EfcTest = zetest::FlowTest;
 
+// Single keys of types 6 (0x800), 15 (6) and 7 (2): two items, the second
+// half empty.
+ze_efc_rule_s three_singles(uint32_t more_bits) {
+    ze_efc_rule_s r = rule((1u << 7) | (1u << 10) | (1u << 15) | more_bits);
+    r.key7 = 0x0800;
+    r.key10 = 6;
+    r.key15 = 2;
+    return r;
+}
+
 // Key items of representative rules: item words are m1, m0, g1, g0, k1, k0.
 struct ItemCase {
     const char *name;
@@ -25,10 +35,6 @@ std::vector<ItemCase> item_cases() {
     ze_efc_rule_s mac = rule(0x2);  // destination MAC: one whole item
     const uint8_t addr[12] = {0x00, 0x11, 0x22, 0x33, 0x44, 0x55, 0xff, 0xff, 0xff, 0x00, 0xff, 0xf0};
     std::memcpy(mac.dmac, addr, 12);
-    ze_efc_rule_s singles = rule((1u << 7) | (1u << 10) | (1u << 15));
-    singles.key7 = 0x0800;
-    singles.key10 = 6;
-    singles.key15 = 2;
     ze_efc_rule_s halves = rule((1u << 3) | (1u << 4) | (1u << 18) | (1u << 19));
     halves.dip = 0x0a000001;
     halves.dip_mask = 0xffffff00;
@@ -39,7 +45,7 @@ std::vector<ItemCase> item_cases() {
     return {
         // first address byte low in k0; ~0xffffff00 and ~0xfff0 as 16 bits
         {"dmac", mac, {{4, 8, 1, 1, 0x5544, 0x33221100}}, 0},
-        {"odd singles leave a half item", singles, {{0, 0, 15, 6, 6, 0x800}, {0, 0, 0, 7, 0, 2}}, 1},
+        {"odd singles leave a half item", three_singles(0), {{0, 0, 15, 6, 6, 0x800}, {0, 0, 0, 7, 0, 2}}, 1},
         {"ipv4 pair, counted pair",
          halves,
          {{16, 8, 4, 3, 0xc0a80001, 0x0a000001}, {5, 5, 17, 11, 0x1234, 0x1234}},
@@ -136,12 +142,9 @@ TEST_F(EfcTest, RuleRangeWalksBackToThePreviousRule) {
 }
 
 TEST_F(EfcTest, InstallWritesOneBlockPerItemWithEofOnTheLast) {
-    ze_efc_rule_s r = rule((1u << 0) | (1u << 7) | (1u << 10) | (1u << 15));
+    ze_efc_rule_s r = three_singles(1u << 0);
     r.n_base = 1;
     r.igr_port = 2;
-    r.key7 = 0x0800;
-    r.key10 = 6;
-    r.key15 = 2;
     ze_efc_action_s a = action((1u << 12) | (1u << 2));
     a.egress_port = 5;
     a.svlan = 200;
