@@ -81,18 +81,36 @@ TEST_F(EfcTest, MaskCountStopsAtTheWordWidthAndPlacementAtTheListEnd) {
     uint8_t index = ZE_EFC_ITEM_COUNT;  // key placement never writes past the list
     EXPECT_EQ(ze_lsw_efc_get_value(&index, items, 1, 1, 1), 18u);
     EXPECT_EQ(ze_lsw_efc_get_value(nullptr, items, 1, 1, 1), 31u);
+    index = ZE_EFC_ITEM_COUNT - 1;  // completing the last item reads nothing past it
+    ui_g0status = 1;
+    EXPECT_EQ(ze_lsw_efc_get_value(&index, items, 1, 1, 1), 0u);
+    EXPECT_EQ(debug_lines().back(), "ze_lsw_efc_get_value() end 0       0       0       0       \n");
 }
 
-TEST_F(EfcTest, DebugLinesOfAnIpv4Key) {
-    ze_efc_rule_s r = rule(1u << 3);
-    r.dip = 0x0a000001;
-    r.dip_mask = 0xffffffff;
-    ze_efc_item_s items[ZE_EFC_ITEM_COUNT] = {};
-    ASSERT_EQ(ze_lsw_efc_get_attr(&r, items), 0u);
-    EXPECT_EQ(debug_lines(), (std::vector<std::string>{
-                                 "ze_lsw_efc_get_masknum() entry ui_bitmask = 0\r\n",
-                                 "~~~dip = 0xa000001 \r\n", "~ui_dipmask = 0xffffffff \r\n",
-                                 "~ui_m0 = 0x0 \r\n"}));
+TEST_F(EfcTest, DebugLinesOfTheConversion) {
+    ze_efc_rule_s ip = rule(1u << 3);
+    ip.dip = 0x0a000001;
+    ip.dip_mask = 0xffffffff;
+    ze_efc_rule_s pair = three_singles(0);
+    pair.key_mask &= ~(1u << 15);
+    const std::pair<ze_efc_rule_s, std::vector<std::string>> cases[] = {
+        {ip,
+         {"ze_lsw_efc_get_masknum() entry ui_bitmask = 0\r\n", "~~~dip = 0xa000001 \r\n",
+          "~ui_dipmask = 0xffffffff \r\n", "~ui_m0 = 0x0 \r\n"}},
+        // the closing line shows the item current after the placement
+        {pair,
+         {"ze_lsw_efc_get_value() entry 0       6       2048    6       \n",
+          "ze_lsw_efc_get_value() end 6       2048    0       0       \n",
+          "ze_lsw_efc_get_value() entry 0       15      6       15      \n",
+          "ze_lsw_efc_get_value() index:1  \n",
+          "ze_lsw_efc_get_value() end 0       0       0       0       \n"}},
+    };
+    for (const auto &[r, lines] : cases) {
+        ze_host_trace_clear();
+        ze_efc_item_s items[ZE_EFC_ITEM_COUNT] = {};
+        ASSERT_EQ(ze_lsw_efc_get_attr(&r, items), 0u);
+        EXPECT_EQ(debug_lines(), lines);
+    }
 }
 
 // Free-run search: fids in use given as ranges, then the search.
