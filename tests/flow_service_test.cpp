@@ -45,7 +45,7 @@ TEST_F(FlowServiceTest, MappingDirectionNormalisation) {
         uint8_t want_igr;
     };
     const Case cases[] = {
-        {ZE_SFC_KEY_VLAN, 0x00, 0, 0x3, 0x1f},
+        {ZE_SFC_KEY_VLAN, 0x20, 0, 0x3, 0x3f},  // LAN bits added, others kept
         {ZE_SFC_KEY_VLAN | ZE_SFC_KEY_IGR, 0x04, 0, 0x3, 0x04},
         {ZE_SFC_KEY_VLAN, 0x07, 1, 0x3, 0x20},
         {ZE_SFC_KEY_VLAN, 0x07, 2, 0x2, 0x07},
@@ -108,12 +108,9 @@ TEST_F(FlowServiceTest, IgmpPriorityService) {
     ASSERT_EQ(ze_lsw_flow_change_igmp_pri(6), 0u);
     auto w = entries_of(0x505);
     ASSERT_EQ(w.size(), 1u);
-    EXPECT_EQ(word_at(w[0].sent, 16), 7u);     // g0: key type 7
-    EXPECT_EQ(word_at(w[0].sent, 20), 2u);     // k0
-    EXPECT_EQ(word_at(w[0].sent, 48), 0x7fu);  // every port: bit 0 of the mask is clear
-    EXPECT_EQ(word_at(w[0].sent, 112), 1u);    // spriact
-    EXPECT_EQ(word_at(w[0].sent, 116), 6u);    // spvalue
-    EXPECT_EQ(word_at(w[0].sent, 120), 2u);    // act
+    // g0 (key type 7), k0, igr (every port: mask bit 0 clear), spriact, spvalue, act
+    const uint32_t want[][2] = {{16, 7}, {20, 2}, {48, 0x7f}, {112, 1}, {116, 6}, {120, 2}};
+    for (const auto &e : want) EXPECT_EQ(word_at(w[0].sent, e[0]), e[1]) << "offset " << e[0];
     EXPECT_EQ(st_efcservice[1].rule.igr_port, 5);
 }
 

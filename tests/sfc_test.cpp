@@ -45,27 +45,22 @@ TEST_F(SfcTest, InstallWritesEveryKeyOfTheMaskWithoutReadingFirst) {
     EXPECT_EQ(word_at(vlan_only, 32) | word_at(vlan_only, 40) | word_at(vlan_only, 44), 0u);
 }
 
-TEST_F(SfcTest, DeletedSfidIsReusedLowestFirst) {
-    install_vlans(6);
-    ASSERT_EQ(ze_lsw_flow_delete_sfc(3), 0u);
-    const zesim::Bytes del = entries_of(0x507).back().sent;
-    EXPECT_EQ(word_at(del, 0), 3u);
-    EXPECT_EQ(word_at(del, 4), 0u);
-    EXPECT_EQ(word_at(del, 8), 0u);
-    ze_sfc_mapping_s m = vlan_mapping(999);
-    uint16_t sfid = 0;
-    ASSERT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0u);
-    EXPECT_EQ(sfid, 3);
-}
-
-TEST_F(SfcTest, FullTableWritesNothing) {
+// A full table takes no install and writes nothing; a deleted sfid is the
+// next one taken.
+TEST_F(SfcTest, FullTableThenLowestFreeSfidReused) {
     install_vlans(128);
     zesim::clear_log();
-    ze_sfc_mapping_s m = vlan_mapping(7);
+    ze_sfc_mapping_s m = vlan_mapping(999);
     uint16_t sfid = 0xabcd;
     EXPECT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0xffffffffu);
     EXPECT_EQ(sfid, 0xabcd);
     EXPECT_TRUE(zesim::commands().empty());
+    ASSERT_EQ(ze_lsw_flow_delete_sfc(3), 0u);
+    const zesim::Bytes del = entries_of(0x507).back().sent;
+    EXPECT_EQ(word_at(del, 0), 3u);
+    EXPECT_EQ(word_at(del, 4) | word_at(del, 8), 0u);  // invalid, disabled
+    ASSERT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0u);
+    EXPECT_EQ(sfid, 3);
 }
 
 TEST_F(SfcTest, DeleteRefusals) {
@@ -106,33 +101,30 @@ TEST_F(SfcTest, DeleteAllStopsAtTheFirstGemPortFailure) {
 }
 
 TEST_F(SfcTest, GemPortSearchesFollowDirectionAndStart) {
-    ze_sfc_shadow_s rows[] = {
-        {1, 0, 77, {}}, {1, 0, 77, {}}, {1, 0, 88, {}}, {0, 0, 77, {}},
+    // GEM port 77 downstream, 77 upstream, 88 upstream, 77 upstream but free
+    const uint8_t igr[] = {0x20, 0x02, 0x02, 0x02};
+    const uint16_t gem[] = {77, 77, 88, 77};
+    for (uint32_t s = 0; s < 4; ++s) {
+        st_sfcmapping[s] = {s < 3 ? uint8_t{1} : uint8_t{0}, 0, gem[s], {}};
+        st_sfcmapping[s].mapping.igr = igr[s];
+    }
+    const uint32_t cases[][5] = {  // GEM port, direction, first, result, sfid
+        {77, 0, 0, 0, 1}, {77, 1, 0, 0, 0}, {77, 1, 1, 18, 0xffff}, {77, 2, 0, 18, 0xffff},
+        {77, 0, 128, 18, 0xffff},
     };
-    rows[0].mapping.igr = 0x20;  // downstream
-    rows[1].mapping.igr = 0x02;  // upstream
-    rows[2].mapping.igr = 0x02;
-    rows[3].mapping.igr = 0x02;  // free
-    std::memcpy(st_sfcmapping, rows, sizeof rows);
-
-    uint16_t sfid = 0xffff;
-    EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(77, 0, 0, &sfid), 0u);
-    EXPECT_EQ(sfid, 1);
-    EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(77, 1, 0, &sfid), 0u);
-    EXPECT_EQ(sfid, 0);
-    EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(77, 1, 1, &sfid), 18u);
-    EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(77, 2, 0, &sfid), 18u);
-    EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(77, 0, 128, &sfid), 18u);
+    for (const auto &c : cases) {
+        uint16_t sfid = 0xffff;
+        EXPECT_EQ(ze_lsw_flow_get_sfid_by_gemport(c[0], c[1], c[2], &sfid), c[3]) << c[1] << " " << c[2];
+        EXPECT_EQ(sfid, c[4]) << c[1] << " " << c[2];
+    }
+    uint16_t sfid = 0xffff, count = 0xffff;
     EXPECT_EQ(ze_lsw_flow_get_sfid(88, &sfid), 0u);
     EXPECT_EQ(sfid, 2);
     EXPECT_EQ(ze_lsw_flow_get_sfid(99, &sfid), 18u);
-
-    uint16_t count = 0xffff;
+    EXPECT_EQ(ze_lsw_flow_get_sfc_item_count(77, 2, &count), 0u);
+    EXPECT_EQ(count, 0xffff);  // no count for another direction
     EXPECT_EQ(ze_lsw_flow_get_sfc_item_count(77, 0, &count), 0u);
     EXPECT_EQ(count, 1);
-    count = 0xffff;
-    EXPECT_EQ(ze_lsw_flow_get_sfc_item_count(77, 2, &count), 0u);
-    EXPECT_EQ(count, 0xffff);
 }
 
 TEST_F(SfcTest, SearchByRecordComparesEveryByte) {
