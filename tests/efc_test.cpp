@@ -32,9 +32,10 @@ struct ItemCase {
 };
 
 std::vector<ItemCase> item_cases() {
-    ze_efc_rule_s mac = rule(0x2);  // destination MAC: one whole item
+    ze_efc_rule_s macs = rule(0x6);  // each MAC address a whole item
     const uint8_t addr[12] = {0x00, 0x11, 0x22, 0x33, 0x44, 0x55, 0xff, 0xff, 0xff, 0x00, 0xff, 0xf0};
-    std::memcpy(mac.dmac, addr, 12);
+    std::memcpy(macs.dmac, addr, 12);
+    std::memset(macs.smac, 0xff, 12);
     ze_efc_rule_s halves = rule((1u << 3) | (1u << 4) | (1u << 18) | (1u << 19));
     halves.dip = 0x0a000001;
     halves.dip_mask = 0xffffff00;
@@ -44,7 +45,7 @@ std::vector<ItemCase> item_cases() {
     halves.key18_19_masknum = 5;
     return {
         // first address byte low in k0; ~0xffffff00 and ~0xfff0 as 16 bits
-        {"dmac", mac, {{4, 8, 1, 1, 0x5544, 0x33221100}}, 0},
+        {"dmac, smac", macs, {{4, 8, 1, 1, 0x5544, 0x33221100}, {0, 0, 2, 2, 0xffff, 0xffffffff}}, 0},
         {"odd singles leave a half item", three_singles(0), {{0, 0, 15, 6, 6, 0x800}, {0, 0, 0, 7, 0, 2}}, 1},
         {"ipv4 pair, counted pair",
          halves,
