@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "test_support.h"
 #include "ze_host.h"
@@ -55,6 +56,17 @@ protected:
         auto it = std::find_if(all.rbegin(), all.rend(), [&](const auto &t) { return func == t.func; });
         if (it != all.rend()) out = *it;
         return it != all.rend();
+    }
+
+    // The function named by each debug record, in order.
+    static std::vector<std::string> debug_funcs() {
+        std::vector<std::string> out;
+        for (uint32_t i = 0; i < ze_host_trace_count(); ++i) {
+            ze_host_trace_rec rec;
+            ze_host_trace_get(i, &rec);
+            if (rec.kind == ZE_HOST_REC_DEBUG) out.push_back(rec.func);
+        }
+        return out;
     }
 
     int64_t heap_at_start_ = 0;
