@@ -8,6 +8,7 @@ namespace {
 
 using zetest::action;
 using zetest::entries_of;
+using zetest::expect_words;
 using zetest::occupy_fids;
 using zetest::rule;
 using zetest::word_at;
@@ -256,8 +257,7 @@ TEST_F(EfcTest, DeleteRemovesTheWholeRuleFromItsGroupStart) {
     auto w = entries_of(0x505);
     ASSERT_EQ(w.size(), 3u);
     for (uint32_t i = 0; i < 3; ++i) {  // fid, fid, valid 0, n0 = n1 = 2
-        const uint32_t want[][2] = {{0, 50 + i}, {4, 50 + i}, {8, 0}, {28, 2}, {44, 2}};
-        for (const auto &e : want) EXPECT_EQ(word_at(w[i].sent, e[0]), e[1]) << i << " @" << e[0];
+        expect_words(w[i].sent, {{0, 50 + i}, {4, 50 + i}, {8, 0}, {28, 2}, {44, 2}});
         EXPECT_EQ(st_efcservice[50 + i].status, 0);
     }
     EXPECT_EQ(ze_lsw_flow_delete_efc(405), 0xffffffffu);

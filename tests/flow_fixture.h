@@ -30,6 +30,10 @@ inline ze_efc_action_s action(uint32_t mask = 0) {
     a.act_mask = mask;
     return a;
 }
+// Checks words of a block sent to the datapath: {offset, value} pairs.
+inline void expect_words(const zesim::Bytes &b, std::initializer_list<std::pair<uint32_t, uint32_t>> want) {
+    for (auto [offset, value] : want) EXPECT_EQ(word_at(b, offset), value) << "offset " << offset;
+}
 // Marks fids [from, to] in use (single-entry rules' eof left 0).
 inline void occupy_fids(uint32_t from, uint32_t to) {
     for (uint32_t f = from; f <= to; ++f) st_efcservice[f].status = 1;

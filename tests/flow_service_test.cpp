@@ -7,9 +7,9 @@ namespace {
 
 using zetest::action;
 using zetest::entries_of;
+using zetest::expect_words;
 using zetest::rule;
 using zetest::vlan_mapping;
-using zetest::word_at;
 using FlowServiceTest = zetest::FlowTest;
 
 ze_efc_rule_s ip_rule(uint32_t dip) {
@@ -109,8 +109,7 @@ TEST_F(FlowServiceTest, IgmpPriorityService) {
     auto w = entries_of(0x505);
     ASSERT_EQ(w.size(), 1u);
     // g0 (key type 7), k0, igr (every port: mask bit 0 clear), spriact, spvalue, act
-    const uint32_t want[][2] = {{16, 7}, {20, 2}, {48, 0x7f}, {112, 1}, {116, 6}, {120, 2}};
-    for (const auto &e : want) EXPECT_EQ(word_at(w[0].sent, e[0]), e[1]) << "offset " << e[0];
+    expect_words(w[0].sent, {{16, 7}, {20, 2}, {48, 0x7f}, {112, 1}, {116, 6}, {120, 2}});
     EXPECT_EQ(st_efcservice[1].rule.igr_port, 5);
 }
 

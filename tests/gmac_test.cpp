@@ -6,22 +6,15 @@
 namespace {
 
 using zetest::entries_of;
-using zetest::word_at;
+using zetest::expect_words;
 using GmacTest = zetest::FlowTest;
 
 TEST_F(GmacTest, SetMapsBringsThePortUpAndRecordsTheShadow) {
     zesim::set_word(0x202, 12, 1, {1001});  // AES already on
     ASSERT_EQ(ze_gmac_set_gemport(4, 2, 1001), 0u);
     EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xb05, 0x202, 0x203}));
-    const zesim::Bytes map = entries_of(0xb05)[0].sent;
-    EXPECT_EQ(word_at(map, 0), 4u);
-    EXPECT_EQ(word_at(map, 4), 1001u);
-    EXPECT_EQ(word_at(map, 8), 2u);
-    const zesim::Bytes attr = entries_of(0x203)[0].sent;
-    EXPECT_EQ(word_at(attr, 0), 1001u);
-    EXPECT_EQ(word_at(attr, 8), 2u);
-    EXPECT_EQ(word_at(attr, 12), 1u);
-    EXPECT_EQ(word_at(attr, 16), 1u);
+    expect_words(entries_of(0xb05)[0].sent, {{0, 4}, {4, 1001}, {8, 2}});
+    expect_words(entries_of(0x203)[0].sent, {{0, 1001}, {8, 2}, {12, 1}, {16, 1}});
     EXPECT_EQ(st_sfcmapping[4].status, 1);
     EXPECT_EQ(st_sfcmapping[4].tcont, 2);
     EXPECT_EQ(st_sfcmapping[4].gemport, 1001);

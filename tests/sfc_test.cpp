@@ -7,7 +7,7 @@
 namespace {
 
 using zetest::entries_of;
-using zetest::word_at;
+using zetest::expect_words;
 using SfcTest = zetest::FlowTest;
 using zetest::vlan_mapping;
 
@@ -32,17 +32,14 @@ TEST_F(SfcTest, InstallWritesEveryKeyOfTheMaskWithoutReadingFirst) {
     ASSERT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0u);
     EXPECT_EQ(sfid, 0);
     EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0x507}));
-    const zesim::Bytes b = entries_of(0x507)[0].sent;
-    const uint32_t expect[][2] = {{0, 0},  {4, 1},   {8, 1},  {12, 1},  {16, 9},  {20, 1},
-                                  {24, 1}, {28, 300}, {32, 1}, {36, 1},  {40, 5},  {44, 0x21},
-                                  {48, 1}, {52, 1},  {56, 0x4242}, {60, 0}, {64, 0}};
-    for (const auto &e : expect) EXPECT_EQ(word_at(b, e[0]), e[1]) << "offset " << e[0];
+    expect_words(entries_of(0x507)[0].sent,
+                 {{0, 0}, {4, 1}, {8, 1}, {12, 1}, {16, 9}, {20, 1}, {24, 1}, {28, 300}, {32, 1}, {36, 1},
+                  {40, 5}, {44, 0x21}, {48, 1}, {52, 1}, {56, 0x4242}, {60, 0}, {64, 0}});
     EXPECT_EQ(st_sfcmapping[0].status, 1);
     // keys whose bit is clear stay 0
     m.key_mask = ZE_SFC_KEY_VLAN;
     ASSERT_EQ(ze_lsw_flow_set_sfc(&m, nullptr), 0u);
-    const zesim::Bytes vlan_only = entries_of(0x507)[1].sent;
-    EXPECT_EQ(word_at(vlan_only, 32) | word_at(vlan_only, 40) | word_at(vlan_only, 44), 0u);
+    expect_words(entries_of(0x507)[1].sent, {{32, 0}, {40, 0}, {44, 0}});
 }
 
 // A full table takes no install and writes nothing; a deleted sfid is the
@@ -56,9 +53,7 @@ TEST_F(SfcTest, FullTableThenLowestFreeSfidReused) {
     EXPECT_EQ(sfid, 0xabcd);
     EXPECT_TRUE(zesim::commands().empty());
     ASSERT_EQ(ze_lsw_flow_delete_sfc(3), 0u);
-    const zesim::Bytes del = entries_of(0x507).back().sent;
-    EXPECT_EQ(word_at(del, 0), 3u);
-    EXPECT_EQ(word_at(del, 4) | word_at(del, 8), 0u);  // invalid, disabled
+    expect_words(entries_of(0x507).back().sent, {{0, 3}, {4, 0}, {8, 0}});  // invalid, disabled
     ASSERT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0u);
     EXPECT_EQ(sfid, 3);
 }
