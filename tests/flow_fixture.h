@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
-#include <vector>
 
 #include "test_support.h"
 #include "ze_host.h"
@@ -62,15 +61,14 @@ protected:
         return it != all.rend();
     }
 
-    // The function named by each debug record, in order.
-    static std::vector<std::string> debug_funcs() {
-        std::vector<std::string> out;
+    // Every debug record names a function whose name starts with `prefix`
+    // (an API function, never an inner helper).
+    static void expect_debug_under(const std::string &prefix) {
         for (uint32_t i = 0; i < ze_host_trace_count(); ++i) {
-            ze_host_trace_rec rec;
-            ze_host_trace_get(i, &rec);
-            if (rec.kind == ZE_HOST_REC_DEBUG) out.push_back(rec.func);
+            ze_host_trace_rec r;
+            ze_host_trace_get(i, &r);
+            EXPECT_TRUE(r.kind != ZE_HOST_REC_DEBUG || std::string(r.func).rfind(prefix, 0) == 0) << r.func;
         }
-        return out;
     }
 
     int64_t heap_at_start_ = 0;
