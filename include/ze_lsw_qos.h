@@ -23,7 +23,7 @@ ZE_BEGIN_DECLS
 
 /* Egress queues per port; a queue's global id is port * 8 + queue. */
 #define ZE_LSW_QOS_QUEUE_COUNT 8u
-/* Highest port of the egress scheduler and the shaper (13 needs a flag). */
+/* Highest port of the egress scheduler. */
 #define ZE_LSW_QOS_SCH_PORT_MAX 13u
 /* Rate put into an egress shaper when 0 is asked for; it is then disabled. */
 #define ZE_LSW_QOS_EGR_DEFAULT_RATE 15625u

@@ -161,10 +161,14 @@ void fill_counters() {
     }
 }
 
-void set_counter(uint32_t id, uint32_t offset, uint64_t value,
+bool set_counter(uint32_t id, uint32_t offset, uint64_t value,
                  std::initializer_list<uint32_t> keys) {
+    const BlockDesc *d = find_block(id);
+    const uint32_t length = d ? d->length : 0;
+    if (offset > length || length - offset < 4) return false;
     set_word(id, offset, static_cast<uint32_t>(value), keys);
-    set_word(id, offset + 4, static_cast<uint32_t>(value >> 32), keys);
+    if (length - offset >= 8) set_word(id, offset + 4, static_cast<uint32_t>(value >> 32), keys);
+    return true;
 }
 
 }  // namespace zesim

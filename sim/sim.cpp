@@ -233,13 +233,24 @@ void store(uint32_t id, const Bytes &content) {
     slot(d, padded.data()) = padded;
 }
 
+// A word outside its block is a mistake of the caller, not a model state.
+void require_word(const BlockDesc &d, uint32_t offset) {
+    if (offset > d.length || d.length - offset < 4) {
+        std::fprintf(stderr, "zesim: offset %u lies outside the %u-byte block '%s'\n", offset, d.length,
+                     d.name);
+        std::abort();
+    }
+}
+
 uint32_t word(uint32_t id, uint32_t offset, std::initializer_list<uint32_t> keys) {
+    require_word(require_block(id), offset);
     Bytes b = block(id, keys);
     return read_field(b.data() + offset, 4);
 }
 
 void set_word(uint32_t id, uint32_t offset, uint32_t value, std::initializer_list<uint32_t> keys) {
     const BlockDesc &d = require_block(id);
+    require_word(d, offset);
     Bytes src = key_source(d, keys);
     write_field(slot(d, src.data()).data() + offset, 4, value);
 }

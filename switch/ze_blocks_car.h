@@ -38,10 +38,10 @@ struct TocpuCar : CarTriple {
     static constexpr uint32_t kGet = 0xa07, kSet = 0xa06;
 };
 
-// The simple CAR: six slots of three words (first, second, third value).
+// The simple CAR: six slots of three words (first, second, third value)
+// at 12-byte steps.
 struct SimpleCar {
     static constexpr uint32_t kGet = 0xa00, kSet = 0xa01, kSize = 72;
-    static constexpr uint32_t kSlotSize = 12;
 };
 
 // Packet action and CAR of a protocol entry's sub-entries.

@@ -33,7 +33,10 @@ struct UniPort {
     static constexpr U32<kSize> loopback{32};
     static constexpr U32<kSize> defaults[2] = {88, 96};  // VLAN, priority
     static constexpr U32<kSize> pause{136};
+    static constexpr U32<kSize> car_enable{148};    // ingress CAR
     static constexpr U32<kSize> pause_second{152};  // written with the pause, never read
+    static constexpr U32<kSize> car_param3{156};    // ingress CAR: words 3 and 1 of
+    static constexpr U32<kSize> car_param1{164};    // the port CAR's parameters
     static constexpr U32<kSize> stp_state{184};
 };
 

@@ -65,7 +65,6 @@ struct QosQueueShaping {
 struct QosWred {
     static constexpr uint32_t kGet = 2583, kSet = 2582, kSetSmall = 0xa18, kSize = 44;
     static constexpr U32<kSize> index{0};
-    static constexpr U32<kSize> word1{4};
     static constexpr U32<kSize> word2{8};
 };
 

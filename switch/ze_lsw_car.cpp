@@ -1,7 +1,8 @@
 // The single-block rate limiters: EFC CAR, simple CAR, protocol packet
-// action and CAR, to-CPU reason CAR and Ethernet port CAR, and the start-up state of
-// WRED and the flow CAR profiles.
+// action and CAR, to-CPU reason CAR and Ethernet port CAR, and the start-up
+// state of WRED and the flow CAR profiles.
 #include "ze_blocks_car.h"
+#include "ze_blocks_port.h"
 #include "ze_blocks_qos.h"
 #include "ze_dp_block.h"
 #include "ze_lsw_car.h"
@@ -18,15 +19,7 @@ using ze::QosWred;
 using ze::SimpleCar;
 using ze::TocpuCar;
 using ze::TocpuReason;
-
-// The CAR fields of an Ethernet port's attribute block.
-struct EthPortCar {
-    static constexpr uint32_t kGet = 0x320, kSet = 0x321, kSize = 188;
-    static constexpr ze::U32<kSize> port{0};
-    static constexpr ze::U32<kSize> car_enable{148};
-    static constexpr ze::U32<kSize> word3{156};
-    static constexpr ze::U32<kSize> word1{164};
-};
+using ze::UniPort;
 
 // Slots of the simple CAR that each kind uses; the first is the one read.
 constexpr uint32_t kNoSlot = 0xffffffff;
@@ -47,7 +40,7 @@ enum : uint32_t { kEthIngress = 0, kEthEgress = 1 };
 
 // WRED start-up profiles: 16 entries of the first table, 4 of the second.
 constexpr uint32_t kWredEntries = 16, kWredSmallEntries = 4;
-constexpr uint32_t kWredStartup[10] = {6, 2, 0, 0, 0, 0, 100, 100, 100, 100};  // words 1..10
+constexpr uint32_t kWredStartup[] = {6, 2, 0, 0, 0, 0, 100, 100, 100, 100};  // words 1..10
 
 // Offset of sub-entry `sub`'s word in a protocol block, or 0 when the word
 // would lie outside the block.
@@ -68,7 +61,7 @@ uint32_t read_protocol_word(const ze::TraceSite &site, uint32_t entry, uint32_t 
 
 uint32_t write_wred_table(uint32_t cmd, uint32_t entries) {
     ze::Block<QosWred> b;
-    for (uint32_t i = 0; i < 10; ++i) b.set_word(4 + 4 * i, kWredStartup[i]);
+    for (uint32_t i = 0; i < sizeof kWredStartup / 4; ++i) b.set_word(4 + 4 * i, kWredStartup[i]);
     for (uint32_t e = 0; e < entries; ++e) {
         b.set(QosWred::index, e);
         uint32_t r = ze::dp_send(cmd, b.data(), QosWred::kSize);
@@ -199,13 +192,13 @@ uint32_t ze_lsw_car_get_tocpu_reason_car(uint32_t reason, uint8_t *v1, uint32_t 
 uint32_t ze_lsw_car_set_eth_car(uint32_t port, uint32_t direction, const uint32_t *params) {
     if (!params) return ZE_ERR_NULL_PTR;
     if (direction == kEthIngress) {
-        ze::Block<EthPortCar> b;
-        b.set(EthPortCar::port, port);
+        ze::Block<UniPort> b;
+        b.set(UniPort::port, port);
         return ze::update(ZE_SITE, b, [&](auto &blk) {
-            blk.set(EthPortCar::port, port);
-            blk.set(EthPortCar::car_enable, 1);
-            blk.set(EthPortCar::word3, params[3]);
-            blk.set(EthPortCar::word1, params[1]);
+            blk.set(UniPort::port, port);
+            blk.set(UniPort::car_enable, 1);
+            blk.set(UniPort::car_param3, params[3]);
+            blk.set(UniPort::car_param1, params[1]);
         });
     }
     uint32_t r = ZE_OK;

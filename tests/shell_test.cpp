@@ -48,7 +48,8 @@ TEST_F(ShellTest, DriverFailureFromInjectedFault) {
 
 TEST_F(ShellTest, RejectsWhatItCannotRun) {
     const char *bad[] = {"no_such_command", "chip_set_upmode 1 2", "chip_set_upmode x",
-                         "chip_set_upmode bogus=1", "help nothing", "sim nothing", "trace x"};
+                         "chip_set_upmode bogus=1", "help nothing", "sim nothing", "trace x",
+                         "sim set 0x100 73 1", "sim set 0x999 0 1"};
     for (const char *line : bad) run(line, false);
     EXPECT_TRUE(zesim::commands().empty());
 }

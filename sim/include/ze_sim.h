@@ -155,8 +155,10 @@ uint32_t counter_pattern(uint32_t instance, uint32_t offset);
 // Ethernet ports 0..4, queues 0..127, route indexes 0..15) with the
 // pattern; key words keep their key.
 void fill_counters();
-// Sets one 64-bit counter: the low word at `offset`, the high word after it.
-// A 32-bit counter is one set_word().
-void set_counter(uint32_t id, uint32_t offset, uint64_t value, std::initializer_list<uint32_t> keys = {});
+// Sets one 64-bit counter: the low word at `offset`, the high word after it
+// (dropped when `offset` holds the block's last word). A 32-bit counter is
+// one set_word(). False, and nothing set, for an unknown block or an
+// `offset` outside it.
+bool set_counter(uint32_t id, uint32_t offset, uint64_t value, std::initializer_list<uint32_t> keys = {});
 
 }  // namespace zesim

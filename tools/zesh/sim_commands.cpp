@@ -135,6 +135,11 @@ bool sim_set(Shell &sh, const std::vector<std::string> &args) {
         if (args.size() < 5) sh.out() << "usage: sim set CMD OFFSET VALUE [KEY...]\n";
         return false;
     }
+    uint32_t length = zesim::find_block(v[0])->length;
+    if (v[1] > length || length - v[1] < 4) {
+        sh.out() << "sim: offset " << v[1] << " lies outside the " << length << "-byte block\n";
+        return false;
+    }
     with_keys(v, 3, [&](std::initializer_list<uint32_t> k) { zesim::set_word(v[0], v[1], v[2], k); });
     return true;
 }
@@ -186,11 +191,10 @@ bool sim_counters(Shell &sh, const std::vector<std::string> &args) {
     if (!numbers(sh, {args[3], args[4]}, 0, v) || !block_exists(sh, v[0])) return false;
     std::vector<uint32_t> key;
     if (args.size() == 7 && !numbers(sh, {args[6]}, 0, key)) return false;
-    if (key.empty())
-        zesim::set_counter(v[0], v[1], value);
-    else
-        zesim::set_counter(v[0], v[1], value, {key[0]});
-    return true;
+    const bool set = key.empty() ? zesim::set_counter(v[0], v[1], value)
+                                 : zesim::set_counter(v[0], v[1], value, {key[0]});
+    if (!set) sh.out() << "sim: offset " << v[1] << " lies outside block " << v[0] << "\n";
+    return set;
 }
 
 const SimCommand kSimCommands[] = {
