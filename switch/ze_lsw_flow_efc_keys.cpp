@@ -145,12 +145,9 @@ uint32_t ze_lsw_efc_get_value(uint8_t *index, ze_efc_item_s *items, uint32_t typ
     if (!index || !items) return ze::traced(ZE_SITE, ZE_ERR_NULL_PTR);
     if (*index > kLastItem) return ze::traced(ZE_SITE, ZE_ERR_PARAM);
     ZE_FLOW_DEBUG("ze_lsw_efc_get_value() entry %-8d%-8d%-8d%-8d\n", *index, type0, value, type1);
-    if (ui_g0status == 0) {
-        put_half(*index, items, type0, value, 0);
-    } else {
-        put_half(*index, items, type1, value, 0);
-        ZE_FLOW_DEBUG("ze_lsw_efc_get_value() index:%d  \n", *index);
-    }
+    bool completes = ui_g0status != 0;
+    put_half(*index, items, completes ? type1 : type0, value, 0);
+    if (completes) ZE_FLOW_DEBUG("ze_lsw_efc_get_value() index:%d  \n", *index);
     // The item now current: after completing one, the next (still empty).
     const ze_efc_item_s past_the_list{};
     const ze_efc_item_s &it = *index <= kLastItem ? items[*index] : past_the_list;
