@@ -25,12 +25,8 @@ struct MappingReq {
 struct IndexReq {
     uint16_t value;
 };
-struct ValueSelectReq {
-    uint32_t first;
-    uint32_t second;
-};
 static_assert(sizeof(ServiceReq) == 108 && sizeof(MappingReq) == 24);
-static_assert(sizeof(ze_sfc_mapping_s) == 20 && sizeof(IndexReq) == 2 && sizeof(ValueSelectReq) == 8);
+static_assert(sizeof(ze_sfc_mapping_s) == 20 && sizeof(IndexReq) == 2);
 
 // A removal by record carries no direction: the record is searched exactly
 // as sent, i.e. as the add command replied it.
@@ -99,7 +95,7 @@ uint32_t ze_adapter_cli_flow_set_mapping_value_select(void *, uint32_t, uint32_t
 }
 
 uint32_t ze_adapter_cli_flow_get_mapping_value_select(void *req, uint32_t req_len, uint32_t *reply_len) {
-    return ZE_CLI_HANDLE(ValueSelectReq, kNoReply, [](ValueSelectReq &) { return ZE_OK; });
+    return ZE_CLI_HANDLE(ze::cli::U32PairReq, kNoReply, [](ze::cli::U32PairReq &) { return ZE_OK; });
 }
 
 }  // extern "C"

@@ -18,7 +18,9 @@
  *    above 25), the search stops after it has seen every cursor/run state
  *    once and returns ZE_ERR_FULL (16); an install then reports 0xffffffff.
  *  - Key placement (ze_lsw_efc_get_value) refuses an item index above 24
- *    with 18, so it never writes past the 25-item list.
+ *    with 18, so it never writes past the 25-item list. Its closing debug
+ *    line shows the item at the index after the placement; once a key
+ *    completes the last item, that is an empty item.
  *  - ze_lsw_flow_add_mapping refuses a null record or a null sfid pointer
  *    with 31 (no trace), like the other null-pointer checks.
  *  - The shadow accessors trace a rejection only, as the port checks do;

@@ -77,10 +77,11 @@ uint32_t ze_gmac_del_gemport(uint32_t index) {
     uint8_t tcont = 0;
     uint16_t gemport = 0;
     uint32_t r = ze::map_err(ze_gmac_get_gemport(index, &tcont, &gemport));
-    if (r == 0 && tcont == ze::kTcontNone && gemport == ze::kGemPortNone) return ze::traced(ZE_SITE, r);
-    if (r == 0) r = write_mapping(index, ze::kTcontNone, ze::kGemPortNone);
+    bool empty = tcont == ZE_GMAC_TCONT_NONE && gemport == ZE_GMAC_GEMPORT_NONE;
+    if (r == 0 && empty) return ze::traced(ZE_SITE, r);
+    if (r == 0) r = write_mapping(index, ZE_GMAC_TCONT_NONE, ZE_GMAC_GEMPORT_NONE);
     if (r == 0) r = mark_gemport(gemport, 0);
-    if (r == 0) r = ze::map_err(ze_lsw_flow_save_gemmap(index, ze::kTcontNone, ze::kGemPortNone));
+    if (r == 0) r = ze::map_err(ze_lsw_flow_save_gemmap(index, ZE_GMAC_TCONT_NONE, ZE_GMAC_GEMPORT_NONE));
     return ze::traced(ZE_SITE, r);
 }
 

@@ -22,8 +22,4 @@ struct GemMap {
     static constexpr U32<kSize> tcont{8};
 };
 
-// An empty mapping entry: no GEM port on no T-CONT.
-inline constexpr uint32_t kGemPortNone = 4096;
-inline constexpr uint32_t kTcontNone = 8;
-
 }  // namespace ze

@@ -81,7 +81,7 @@ uint32_t ze_lsw_flow_get_gemmap_by_vlan(uint32_t vlan, uint16_t *gemport, uint16
 
 uint32_t ze_lsw_flow_save_service(const ze_efc_rule_s *rule, const ze_efc_action_s *action,
                                   uint32_t fwd_act, uint32_t fid) {
-    if (fid >= ZE_EFC_ENTRY_COUNT) return ze::trace(ZE_SITE, ZE_ERR_PARAM, fid);
+    if (fid >= ZE_EFC_ENTRY_COUNT) return ze::traced(ZE_SITE, ZE_ERR_PARAM);
     if (!rule || !action) return ZE_ERR_NULL_PTR;
     ze_efc_shadow_s &e = st_efcservice[fid];
     e.status = 1;

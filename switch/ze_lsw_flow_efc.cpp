@@ -9,6 +9,8 @@
 namespace {
 
 constexpr char kTraceFile[] = "ze_lsw_flow_function.cpp";
+// The install whose steps the helpers below log.
+constexpr char kSetEfc[] = "ze_lsw_flow_set_efc";
 
 using ze::EfcAttr;
 
@@ -83,12 +85,12 @@ uint32_t write_entries(ze::Block<EfcAttr> &b, const ze_efc_item_s *items, uint32
         b.set(EfcAttr::n1, n);
         b.set(EfcAttr::igr, bitmap);
         b.set(EfcAttr::eof, eof);
-        ZE_FLOW_DEBUG(" g0 %d k0 0x%x\n", it.g0, it.k0);
-        ZE_FLOW_DEBUG(" g1 %d k1 0x%x\n", it.g1, it.k1);
+        ZE_FLOW_DEBUG_AS(kSetEfc, " g0 %d k0 0x%x\n", it.g0, it.k0);
+        ZE_FLOW_DEBUG_AS(kSetEfc, " g1 %d k1 0x%x\n", it.g1, it.k1);
         uint32_t r = ze::dp_write(b);
         if (r == 0) r = ze::map_err(ze_lsw_efc_set_status(fid + i, 1, eof));
         if (r) return r;
-        ZE_FLOW_DEBUG(" ~~~~~ us_fid %-8d\n", fid + i);
+        ZE_FLOW_DEBUG_AS(kSetEfc, " ~~~~~ us_fid %-8d\n", fid + i);
     }
     return ZE_OK;
 }
@@ -103,13 +105,13 @@ uint32_t install(uint32_t first, const ze_efc_rule_s &rule, const ze_efc_action_
     uint8_t count = 0;
     ze_lsw_efc_count_itemnum(items, &count);
     if (count == 0) count = 1;
-    ZE_FLOW_DEBUG("uc_flownum %-8d\r\n", count);
+    ZE_FLOW_DEBUG_AS(kSetEfc, "uc_flownum %-8d\r\n", count);
     uint32_t bitmap = 0;
     r = ze::map_err(ze_lsw_flow_get_portbitmap(rule.key_mask, rule.igr_port, &bitmap));
     if (r) return r;
     uint16_t start = 0;
     r = ze_lsw_efc_get_fid(first, count, &start);
-    ZE_FLOW_DEBUG(" ui_ret %-8d  us_fid %d\r\n", r, start);
+    ZE_FLOW_DEBUG_AS(kSetEfc, " ui_ret %-8d  us_fid %d\r\n", r, start);
     r = ze::map_err(r);
     if (r == 0) r = ze::map_err(ze_lsw_efc_get_fact(action, fwd_act, b.data() + EfcAttr::kActionOffset));
     if (r == 0) r = write_entries(b, items, count, start, rule.n_base + ze::kEfcNOffset, bitmap);

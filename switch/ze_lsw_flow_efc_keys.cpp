@@ -10,6 +10,8 @@
 namespace {
 
 constexpr char kTraceFile[] = "ze_lsw_flow_function.cpp";
+// The conversion whose steps the helpers below log.
+constexpr char kGetAttr[] = "ze_lsw_efc_get_attr";
 
 // How a key mask bit turns into key halves.
 enum class KeyKind : uint8_t {
@@ -103,12 +105,12 @@ void put_mac(uint8_t &index, ze_efc_item_s *items, uint32_t type, const uint8_t 
     it.m1 = masknum(static_cast<uint16_t>(~tail));
     ++index;
     if (type == 1)
-        ZE_FLOW_DEBUG("~~~~dmac   %x:%x:%x:%x:%x:%x \r\n", addr[0], addr[1], addr[2], addr[3],
-                      addr[4], addr[5]);
+        ZE_FLOW_DEBUG_AS(kGetAttr, "~~~~dmac   %x:%x:%x:%x:%x:%x \r\n", addr[0], addr[1], addr[2],
+                         addr[3], addr[4], addr[5]);
     else
-        ZE_FLOW_DEBUG("~~~~smac   %x:%x:%x:%x:%x:%x \r\n", addr[0], addr[1], addr[2], addr[3],
-                      addr[4], addr[5]);
-    ZE_FLOW_DEBUG("~~~~uc_index = %d  k0 = %x  k1=%x \r\n", index, it.k0, it.k1);
+        ZE_FLOW_DEBUG_AS(kGetAttr, "~~~~smac   %x:%x:%x:%x:%x:%x \r\n", addr[0], addr[1], addr[2],
+                         addr[3], addr[4], addr[5]);
+    ZE_FLOW_DEBUG_AS(kGetAttr, "~~~~uc_index = %d  k0 = %x  k1=%x \r\n", index, it.k0, it.k1);
 }
 
 void put_ipv4(uint8_t &index, ze_efc_item_s *items, const KeyBit &k, const ze_efc_rule_s &rule) {
@@ -117,9 +119,9 @@ void put_ipv4(uint8_t &index, ze_efc_item_s *items, const KeyBit &k, const ze_ef
     uint32_t count = masknum(~mask);
     put_half(index, items, k.type, addr, count);
     if (k.type == 3) {
-        ZE_FLOW_DEBUG("~~~dip = 0x%x \r\n", addr);
-        ZE_FLOW_DEBUG("~ui_dipmask = 0x%x \r\n", mask);
-        ZE_FLOW_DEBUG("~ui_m0 = 0x%x \r\n", count);
+        ZE_FLOW_DEBUG_AS(kGetAttr, "~~~dip = 0x%x \r\n", addr);
+        ZE_FLOW_DEBUG_AS(kGetAttr, "~ui_dipmask = 0x%x \r\n", mask);
+        ZE_FLOW_DEBUG_AS(kGetAttr, "~ui_m0 = 0x%x \r\n", count);
     }
 }
 
@@ -143,13 +145,12 @@ uint32_t ze_lsw_efc_get_value(uint8_t *index, ze_efc_item_s *items, uint32_t typ
     if (!index || !items) return ze::traced(ZE_SITE, ZE_ERR_NULL_PTR);
     if (*index > kLastItem) return ze::traced(ZE_SITE, ZE_ERR_PARAM);
     ZE_FLOW_DEBUG("ze_lsw_efc_get_value() entry %-8d%-8d%-8d%-8d\n", *index, type0, value, type1);
-    ze_efc_item_s &it = items[*index];
-    if (ui_g0status == 0) {
-        put_half(*index, items, type0, value, 0);
-    } else {
-        put_half(*index, items, type1, value, 0);
-        ZE_FLOW_DEBUG("ze_lsw_efc_get_value() index:%d  \n", *index);
-    }
+    bool completes = ui_g0status != 0;
+    put_half(*index, items, completes ? type1 : type0, value, 0);
+    if (completes) ZE_FLOW_DEBUG("ze_lsw_efc_get_value() index:%d  \n", *index);
+    // The item now current: after completing one, the next (still empty).
+    const ze_efc_item_s past_the_list{};
+    const ze_efc_item_s &it = *index <= kLastItem ? items[*index] : past_the_list;
     ZE_FLOW_DEBUG("ze_lsw_efc_get_value() end %-8d%-8d%-8d%-8d\n", it.g0, it.k0, it.g1, it.k1);
     return ZE_OK;
 }

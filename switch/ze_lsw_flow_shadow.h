@@ -42,5 +42,8 @@ inline constexpr uint32_t kFlowDebugLevel = 3;
 
 }  // namespace ze
 
-#define ZE_FLOW_DEBUG(...) \
-    ze_log_debug(::ze::kModLsw, kTraceFile, __func__, __LINE__, ::ze::kFlowDebugLevel, __VA_ARGS__)
+// A debug record under the name of the API function it belongs to; inner
+// helpers name that function, API functions use ZE_FLOW_DEBUG.
+#define ZE_FLOW_DEBUG_AS(name, ...) \
+    ze_log_debug(::ze::kModLsw, kTraceFile, name, __LINE__, ::ze::kFlowDebugLevel, __VA_ARGS__)
+#define ZE_FLOW_DEBUG(...) ZE_FLOW_DEBUG_AS(__func__, __VA_ARGS__)

@@ -8,81 +8,71 @@ namespace {
 
 using zetest::action;
 using zetest::entries_of;
+using zetest::expect_words;
 using zetest::occupy_fids;
 using zetest::rule;
 using zetest::word_at;
 using EfcTest = zetest::FlowTest;
 
-struct Items {
-    ze_efc_item_s it[ZE_EFC_ITEM_COUNT] = {};
-    uint8_t count = 0;
-};
-
-Items convert(const ze_efc_rule_s &r) {
-    Items out;
-    EXPECT_EQ(ze_lsw_efc_get_attr(&r, out.it), 0u);
-    ze_lsw_efc_count_itemnum(out.it, &out.count);
-    return out;
-}
-
-TEST_F(EfcTest, DestinationMacTakesOneWholeItem) {
-    ze_efc_rule_s r = rule(0x2);
-    const uint8_t mac[6] = {0x00, 0x11, 0x22, 0x33, 0x44, 0x55};
-    const uint8_t mask[6] = {0xff, 0xff, 0xff, 0x00, 0xff, 0xf0};
-    std::memcpy(r.dmac, mac, 6);
-    std::memcpy(r.dmac_mask, mask, 6);
-    Items i = convert(r);
-    ASSERT_EQ(i.count, 1);
-    EXPECT_EQ(i.it[0].g0, 1u);
-    EXPECT_EQ(i.it[0].g1, 1u);
-    EXPECT_EQ(i.it[0].k0, 0x33221100u);  // first address byte low
-    EXPECT_EQ(i.it[0].k1, 0x5544u);
-    EXPECT_EQ(i.it[0].m0, 8u);  // ~0xffffff00: eight don't-care bits
-    EXPECT_EQ(i.it[0].m1, 4u);  // ~0xfff0 as 16 bits
-    EXPECT_EQ(ui_g0status, 0u);
-}
-
-TEST_F(EfcTest, SingleKeysPairUpAndAnOddOneLeavesAHalfItem) {
-    ze_efc_rule_s r = rule((1u << 7) | (1u << 10) | (1u << 15));
+// Single keys of types 6 (0x800), 15 (6) and 7 (2): two items, the second
+// half empty.
+ze_efc_rule_s three_singles(uint32_t more_bits) {
+    ze_efc_rule_s r = rule((1u << 7) | (1u << 10) | (1u << 15) | more_bits);
     r.key7 = 0x0800;
     r.key10 = 6;
     r.key15 = 2;
-    Items i = convert(r);
-    ASSERT_EQ(i.count, 2);
-    EXPECT_EQ(i.it[0].g0, 6u);
-    EXPECT_EQ(i.it[0].k0, 0x0800u);
-    EXPECT_EQ(i.it[0].g1, 15u);
-    EXPECT_EQ(i.it[0].k1, 6u);
-    EXPECT_EQ(i.it[1].g0, 7u);
-    EXPECT_EQ(i.it[1].k0, 2u);
-    EXPECT_EQ(i.it[1].g1, 0u);
-    EXPECT_EQ(ui_g0status, 1u);
+    return r;
 }
 
-TEST_F(EfcTest, Ipv4PairAndCountedKeysShareItemsByHalves) {
-    ze_efc_rule_s r = rule((1u << 3) | (1u << 4) | (1u << 18) | (1u << 19));
-    r.dip = 0x0a000001;
-    r.dip_mask = 0xffffff00;
-    r.sip = 0xc0a80001;
-    r.sip_mask = 0xffff0000;
-    r.key18_19 = 0x1234;
-    r.key18_19_masknum = 5;
-    Items i = convert(r);
-    ASSERT_EQ(i.count, 2);
-    const ze_efc_item_s want0{16, 8, 4, 3, 0xc0a80001, 0x0a000001};
-    const ze_efc_item_s want1{5, 5, 17, 11, 0x1234, 0x1234};
-    EXPECT_EQ(std::memcmp(&i.it[0], &want0, sizeof want0), 0);
-    EXPECT_EQ(std::memcmp(&i.it[1], &want1, sizeof want1), 0);
+// Key items of representative rules: item words are m1, m0, g1, g0, k1, k0.
+struct ItemCase {
+    const char *name;
+    ze_efc_rule_s rule;
+    std::vector<ze_efc_item_s> items;
+    uint32_t g0status;
+};
+
+std::vector<ItemCase> item_cases() {
+    ze_efc_rule_s macs = rule(0x6);  // each MAC address a whole item
+    const uint8_t addr[12] = {0x00, 0x11, 0x22, 0x33, 0x44, 0x55, 0xff, 0xff, 0xff, 0x00, 0xff, 0xf0};
+    std::memcpy(macs.dmac, addr, 12);
+    std::memset(macs.smac, 0xff, 12);
+    ze_efc_rule_s halves = rule((1u << 3) | (1u << 4) | (1u << 18) | (1u << 19));
+    halves.dip = 0x0a000001;
+    halves.dip_mask = 0xffffff00;
+    halves.sip = 0xc0a80001;
+    halves.sip_mask = 0xffff0000;
+    halves.key18_19 = 0x1234;
+    halves.key18_19_masknum = 5;
+    return {
+        // first address byte low in k0; ~0xffffff00 and ~0xfff0 as 16 bits
+        {"dmac, smac", macs, {{4, 8, 1, 1, 0x5544, 0x33221100}, {0, 0, 2, 2, 0xffff, 0xffffffff}}, 0},
+        {"odd singles leave a half item", three_singles(0), {{0, 0, 15, 6, 6, 0x800}, {0, 0, 0, 7, 0, 2}}, 1},
+        {"ipv4 pair, counted pair",
+         halves,
+         {{16, 8, 4, 3, 0xc0a80001, 0x0a000001}, {5, 5, 17, 11, 0x1234, 0x1234}},
+         0},
+        {"no keys", rule(0), {}, 0},
+        {"ingress port only", rule(1), {}, 0},
+        {"bits past 21", rule(3u << 22), {}, 0},
+    };
 }
 
-TEST_F(EfcTest, RulesWithoutKeysGiveNoItems) {
-    for (uint32_t mask : {0u, 1u, 1u << 22, 1u << 23}) {
-        Items i = convert(rule(mask));
-        EXPECT_EQ(i.count, 0) << mask;
+TEST_F(EfcTest, RuleToKeyItems) {
+    for (const ItemCase &c : item_cases()) {
+        ze_efc_item_s items[ZE_EFC_ITEM_COUNT] = {};
+        uint8_t count = 0xff;
+        ASSERT_EQ(ze_lsw_efc_get_attr(&c.rule, items), 0u) << c.name;
+        expect_debug_under("ze_lsw_efc_get_");
+        ze_lsw_efc_count_itemnum(items, &count);
+        ASSERT_EQ(count, c.items.size()) << c.name;
+        for (size_t i = 0; i < c.items.size(); ++i)
+            EXPECT_EQ(std::memcmp(&items[i], &c.items[i], sizeof items[i]), 0) << c.name << " item " << i;
+        EXPECT_EQ(ui_g0status, c.g0status) << c.name;
     }
 }
 
-TEST_F(EfcTest, MaskCountCountsLowOnesAndStopsAtTheWordWidth) {
+TEST_F(EfcTest, MaskCountStopsAtTheWordWidthAndPlacementAtTheListEnd) {
     const uint32_t cases[][2] = {{0, 0}, {0xfe, 0}, {0xff, 8}, {0x7fffffff, 31}, {0xffffffff, 32}};
     for (const auto &c : cases) {
         uint32_t n = 99;
@@ -90,24 +80,40 @@ TEST_F(EfcTest, MaskCountCountsLowOnesAndStopsAtTheWordWidth) {
         EXPECT_EQ(n, c[1]) << std::hex << c[0];
     }
     EXPECT_EQ(ze_lsw_efc_get_masknum(1, nullptr), 31u);
-}
-
-TEST_F(EfcTest, KeyPlacementRefusesAnIndexPastTheList) {
     ze_efc_item_s items[ZE_EFC_ITEM_COUNT] = {};
-    uint8_t index = ZE_EFC_ITEM_COUNT;
+    uint8_t index = ZE_EFC_ITEM_COUNT;  // key placement never writes past the list
     EXPECT_EQ(ze_lsw_efc_get_value(&index, items, 1, 1, 1), 18u);
     EXPECT_EQ(ze_lsw_efc_get_value(nullptr, items, 1, 1, 1), 31u);
+    index = ZE_EFC_ITEM_COUNT - 1;  // completing the last item reads nothing past it
+    ui_g0status = 1;
+    EXPECT_EQ(ze_lsw_efc_get_value(&index, items, 1, 1, 1), 0u);
+    EXPECT_EQ(debug_lines().back(), "ze_lsw_efc_get_value() end 0       0       0       0       \n");
 }
 
-TEST_F(EfcTest, DebugLinesOfAnIpv4Key) {
-    ze_efc_rule_s r = rule(1u << 3);
-    r.dip = 0x0a000001;
-    r.dip_mask = 0xffffffff;
-    convert(r);
-    EXPECT_EQ(debug_lines(), (std::vector<std::string>{
-                                 "ze_lsw_efc_get_masknum() entry ui_bitmask = 0\r\n",
-                                 "~~~dip = 0xa000001 \r\n", "~ui_dipmask = 0xffffffff \r\n",
-                                 "~ui_m0 = 0x0 \r\n"}));
+TEST_F(EfcTest, DebugLinesOfTheConversion) {
+    ze_efc_rule_s ip = rule(1u << 3);
+    ip.dip = 0x0a000001;
+    ip.dip_mask = 0xffffffff;
+    ze_efc_rule_s pair = three_singles(0);
+    pair.key_mask &= ~(1u << 15);
+    const std::pair<ze_efc_rule_s, std::vector<std::string>> cases[] = {
+        {ip,
+         {"ze_lsw_efc_get_masknum() entry ui_bitmask = 0\r\n", "~~~dip = 0xa000001 \r\n",
+          "~ui_dipmask = 0xffffffff \r\n", "~ui_m0 = 0x0 \r\n"}},
+        // the closing line shows the item current after the placement
+        {pair,
+         {"ze_lsw_efc_get_value() entry 0       6       2048    6       \n",
+          "ze_lsw_efc_get_value() end 6       2048    0       0       \n",
+          "ze_lsw_efc_get_value() entry 0       15      6       15      \n",
+          "ze_lsw_efc_get_value() index:1  \n",
+          "ze_lsw_efc_get_value() end 0       0       0       0       \n"}},
+    };
+    for (const auto &[r, lines] : cases) {
+        ze_host_trace_clear();
+        ze_efc_item_s items[ZE_EFC_ITEM_COUNT] = {};
+        ASSERT_EQ(ze_lsw_efc_get_attr(&r, items), 0u);
+        EXPECT_EQ(debug_lines(), lines);
+    }
 }
 
 // Free-run search: fids in use given as ranges, then the search.
@@ -157,12 +163,9 @@ TEST_F(EfcTest, RuleRangeWalksBackToThePreviousRule) {
 }
 
 TEST_F(EfcTest, InstallWritesOneBlockPerItemWithEofOnTheLast) {
-    ze_efc_rule_s r = rule((1u << 0) | (1u << 7) | (1u << 10) | (1u << 15));
+    ze_efc_rule_s r = three_singles(1u << 0);
     r.n_base = 1;
     r.igr_port = 2;
-    r.key7 = 0x0800;
-    r.key10 = 6;
-    r.key15 = 2;
     ze_efc_action_s a = action((1u << 12) | (1u << 2));
     a.egress_port = 5;
     a.svlan = 200;
@@ -171,6 +174,7 @@ TEST_F(EfcTest, InstallWritesOneBlockPerItemWithEofOnTheLast) {
     uint16_t fid = 0;
     ASSERT_EQ(ze_lsw_flow_set_efc(1, &r, &a, 4, &fid), 0u);
     EXPECT_EQ(fid, 2);
+    expect_debug_under("ze_lsw_");
     auto writes = entries_of(0x505);
     ASSERT_EQ(writes.size(), 2u);
     EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0x505, 0x505}));
@@ -211,17 +215,15 @@ TEST_F(EfcTest, ActionGroupsKeepTheirHighestBit) {
     }
 }
 
-TEST_F(EfcTest, RuleWithoutKeysTakesOneEntryOnAllPorts) {
+TEST_F(EfcTest, RuleWithoutKeysStillTakesOneEntry) {
     ze_efc_rule_s r = rule(0);
     ze_efc_action_s a = action();
     uint16_t fid = 0;
-    ASSERT_EQ(ze_lsw_flow_set_efc(1, &r, &a, 13, &fid), 0u);
+    ASSERT_EQ(ze_lsw_flow_set_efc(1, &r, &a, 0, &fid), 0u);
     EXPECT_EQ(fid, 1);
     auto w = entries_of(0x505);
     ASSERT_EQ(w.size(), 1u);
-    EXPECT_EQ(word_at(w[0].sent, 48), 0x7fu);
-    EXPECT_EQ(word_at(w[0].sent, 12), 1u);
-    EXPECT_EQ(word_at(w[0].sent, 120), 0u);
+    EXPECT_EQ(word_at(w[0].sent, 12), 1u);  // eof
 }
 
 TEST_F(EfcTest, InstallFailuresFreeTheItemList) {
@@ -254,35 +256,27 @@ TEST_F(EfcTest, DeleteRemovesTheWholeRuleFromItsGroupStart) {
     ASSERT_EQ(ze_lsw_flow_delete_efc(52), 0u);
     auto w = entries_of(0x505);
     ASSERT_EQ(w.size(), 3u);
-    for (uint32_t i = 0; i < 3; ++i) {
-        EXPECT_EQ(word_at(w[i].sent, 0), 50 + i);
-        EXPECT_EQ(word_at(w[i].sent, 4), 50 + i);
-        EXPECT_EQ(word_at(w[i].sent, 8), 0u);
-        EXPECT_EQ(word_at(w[i].sent, 28), 2u);
-        EXPECT_EQ(word_at(w[i].sent, 44), 2u);
+    for (uint32_t i = 0; i < 3; ++i) {  // fid, fid, valid 0, n0 = n1 = 2
+        expect_words(w[i].sent, {{0, 50 + i}, {4, 50 + i}, {8, 0}, {28, 2}, {44, 2}});
         EXPECT_EQ(st_efcservice[50 + i].status, 0);
     }
     EXPECT_EQ(ze_lsw_flow_delete_efc(405), 0xffffffffu);
 }
 
-TEST_F(EfcTest, DeleteAllWritesEveryEntryInUseAndClearsTheShadow) {
+TEST_F(EfcTest, DeleteAllWritesEveryEntryInUseThenClearsTheShadow) {
     occupy_fids(3, 4);
-    st_efcservice[4].eof = 1;
     st_efcservice[300].status = 1;
+    zesim::fail(0x505, 0x77, 2);  // the second write fails: the shadow stays
+    EXPECT_EQ(ze_lsw_flow_efc_delete_all(0, 0, 0, 0), 0xffffffffu);
+    EXPECT_EQ(st_efcservice[3].status, 1);
+    zesim::clear_faults();
+    zesim::clear_log();
     ASSERT_EQ(ze_lsw_flow_efc_delete_all(0, 0, 0, 0), 0u);
     auto w = entries_of(0x505);
     ASSERT_EQ(w.size(), 3u);
     EXPECT_EQ(word_at(w[2].sent, 0), 300u);
-    EXPECT_EQ(std::count(reinterpret_cast<uint8_t *>(st_efcservice),
-                         reinterpret_cast<uint8_t *>(st_efcservice) + sizeof st_efcservice, 0),
-              static_cast<long>(sizeof st_efcservice));
-}
-
-TEST_F(EfcTest, DeleteAllStopsAtAFailedWriteAndKeepsTheShadow) {
-    occupy_fids(3, 4);
-    zesim::fail(0x505, 0x77, 2);
-    EXPECT_EQ(ze_lsw_flow_efc_delete_all(0, 0, 0, 0), 0xffffffffu);
-    EXPECT_EQ(st_efcservice[3].status, 1);
+    const auto *bytes = reinterpret_cast<uint8_t *>(st_efcservice);
+    EXPECT_EQ(std::count(bytes, bytes + sizeof st_efcservice, 0), static_cast<long>(sizeof st_efcservice));
 }
 
 TEST_F(EfcTest, ServiceShadowSearchAndRanges) {
@@ -290,6 +284,9 @@ TEST_F(EfcTest, ServiceShadowSearchAndRanges) {
     ze_efc_action_s a = action(4);
     uint16_t fid = 0;
     EXPECT_EQ(ze_lsw_flow_save_service(&r, &a, 2, 405), 18u);
+    ze_host_trace_rec t;
+    ASSERT_TRUE(last_trace_of("ze_lsw_flow_save_service", t));
+    EXPECT_EQ(t.v[0], 18u);  // the result, not the fid
     EXPECT_EQ(ze_lsw_flow_save_service(nullptr, &a, 2, 7), 31u);
     ASSERT_EQ(ze_lsw_flow_save_service(&r, &a, 2, 7), 0u);
     EXPECT_EQ(ze_lsw_flow_get_service_func(&r, &a, 2, &fid), 0u);
@@ -297,6 +294,8 @@ TEST_F(EfcTest, ServiceShadowSearchAndRanges) {
     EXPECT_EQ(ze_lsw_flow_get_service_func(&r, &a, 3, &fid), 14u);
     EXPECT_EQ(ze_lsw_flow_delete_service(405), 18u);
     EXPECT_EQ(ze_lsw_efc_get_status(405, nullptr, nullptr), 18u);
+    ASSERT_TRUE(last_trace_of("ze_lsw_efc_get_status", t));
+    EXPECT_EQ(t.v[0], 405u);  // the status read records the fid
     EXPECT_EQ(ze_lsw_efc_set_status(405, 1, 1), 18u);
 }
 

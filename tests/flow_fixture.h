@@ -2,6 +2,7 @@
 // shadow tables and half-item flag, and helpers that build records.
 #pragma once
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -13,23 +14,24 @@
 namespace zetest {
 
 inline ze_sfc_mapping_s vlan_mapping(uint16_t vlan, uint32_t mask = ZE_SFC_KEY_VLAN) {
-    ze_sfc_mapping_s m;
-    std::memset(&m, 0, sizeof m);
+    ze_sfc_mapping_s m{};  // padding zeroed too: searches compare every byte
     m.key_mask = mask;
     m.vlan = vlan;
     return m;
 }
 inline ze_efc_rule_s rule(uint32_t mask) {
-    ze_efc_rule_s r;
-    std::memset(&r, 0, sizeof r);
+    ze_efc_rule_s r{};
     r.key_mask = mask;
     return r;
 }
 inline ze_efc_action_s action(uint32_t mask = 0) {
-    ze_efc_action_s a;
-    std::memset(&a, 0, sizeof a);
+    ze_efc_action_s a{};
     a.act_mask = mask;
     return a;
+}
+// Checks words of a block sent to the datapath: {offset, value} pairs.
+inline void expect_words(const zesim::Bytes &b, std::initializer_list<std::pair<uint32_t, uint32_t>> want) {
+    for (auto [offset, value] : want) EXPECT_EQ(word_at(b, offset), value) << "offset " << offset;
 }
 // Marks fids [from, to] in use (single-entry rules' eof left 0).
 inline void occupy_fids(uint32_t from, uint32_t to) {
@@ -53,13 +55,20 @@ protected:
 
     // The last trace record of a function.
     bool last_trace_of(const std::string &func, ze_host_trace_rec &out) const {
-        bool found = false;
-        for (const ze_host_trace_rec &t : traces())
-            if (func == t.func) {
-                out = t;
-                found = true;
-            }
-        return found;
+        const auto &all = traces();
+        auto it = std::find_if(all.rbegin(), all.rend(), [&](const auto &t) { return func == t.func; });
+        if (it != all.rend()) out = *it;
+        return it != all.rend();
+    }
+
+    // Every debug record names a function whose name starts with `prefix`
+    // (an API function, never an inner helper).
+    static void expect_debug_under(const std::string &prefix) {
+        for (uint32_t i = 0; i < ze_host_trace_count(); ++i) {
+            ze_host_trace_rec r;
+            ze_host_trace_get(i, &r);
+            EXPECT_TRUE(r.kind != ZE_HOST_REC_DEBUG || std::string(r.func).rfind(prefix, 0) == 0) << r.func;
+        }
     }
 
     int64_t heap_at_start_ = 0;
