@@ -22,11 +22,22 @@ using ze::QosWred;
 // The shaper port that needs the special flag.
 constexpr uint32_t kSpecialShaperPort = 13;
 
-ze::Block<QosQueueMap> queue_map_key(uint32_t port, uint32_t priority) {
-    ze::Block<QosQueueMap> b;
+// Every setter but WRED writes its key fields into the block twice: before
+// the read, and again after it, whatever the driver answered in them.
+template <class L, class Key, class Edit>
+uint32_t keyed_update(const ze::TraceSite &site, Key &&put_key, Edit &&edit) {
+    ze::Block<L> b;
+    put_key(b);
+    return ze::update(site, b, [&](ze::Block<L> &blk) {
+        put_key(blk);
+        edit(blk);
+    });
+}
+
+void put_queue_map_key(ze::Block<QosQueueMap> &b, uint32_t port, uint32_t priority) {
     b.set(QosQueueMap::port, port);
-    b.set(QosQueueMap::priority, priority);  // group stays 0
-    return b;
+    b.set(QosQueueMap::group, 0);
+    b.set(QosQueueMap::priority, priority);
 }
 
 // A WRED block carrying only the profile's name (words 0 and 2).
@@ -98,9 +109,8 @@ uint32_t ze_lsw_qos_get_queue_shaping(uint32_t queue, uint32_t *p1, uint32_t *p2
 }
 
 uint32_t ze_lsw_qos_set_queue_shaping(uint32_t queue, uint32_t p1, uint32_t p2, uint32_t p3) {
-    ze::Block<QosQueueShaping> b;
-    b.set(QosQueueShaping::queue, queue);
-    return ze::update(ZE_SITE, b, [&](auto &blk) {
+    auto key = [&](auto &blk) { blk.set(QosQueueShaping::queue, queue); };
+    return keyed_update<QosQueueShaping>(ZE_SITE, key, [&](auto &blk) {
         blk.set(QosQueueShaping::p1, p1);
         blk.set(QosQueueShaping::p2, p2);
         blk.set(QosQueueShaping::p3, p3);
@@ -121,6 +131,7 @@ uint32_t ze_lsw_qos_set_egr_shaping(uint32_t port, uint32_t rate) {
     b.set(QosEgrShaping::port, port);
     uint32_t r = ze::dp_read(b);
     if (r == 0) {
+        b.set(QosEgrShaping::port, port);
         b.set(QosEgrShaping::special, port == kSpecialShaperPort ? 1 : 0);
         b.set(QosEgrShaping::enable, 1);
         b.set(QosEgrShaping::rate, rate ? rate : ZE_LSW_QOS_EGR_DEFAULT_RATE);
@@ -136,9 +147,8 @@ uint32_t ze_lsw_qos_set_egr_shaping(uint32_t port, uint32_t rate) {
 uint32_t ze_lsw_qos_set_egr_schattr(uint32_t port, uint32_t queue, uint32_t s1, uint32_t s2) {
     if (port > ZE_LSW_QOS_SCH_PORT_MAX || queue >= ZE_LSW_QOS_QUEUE_COUNT)
         return ze::traced(ZE_SITE, ZE_ERR_PARAM);
-    ze::Block<QosEgrSchedule> b;
-    b.set(QosEgrSchedule::port, port);
-    return ze::update(ZE_SITE, b, [&](auto &blk) {
+    auto key = [&](auto &blk) { blk.set(QosEgrSchedule::port, port); };
+    return keyed_update<QosEgrSchedule>(ZE_SITE, key, [&](auto &blk) {
         uint32_t e = QosEgrSchedule::entry(queue);
         blk.set_word(e + QosEgrSchedule::kValid, 1);
         blk.set_word(e + QosEgrSchedule::kQueueId, port * ZE_LSW_QOS_QUEUE_COUNT + queue);
@@ -160,9 +170,8 @@ uint32_t ze_lsw_qos_get_egr_schattr(uint32_t port, uint32_t queue, uint32_t * /*
 }
 
 uint32_t ze_lsw_qos_set_queue_buffer(uint32_t queue, uint32_t b1, uint32_t b2) {
-    ze::Block<QosQueueBuffer> b;
-    b.set(QosQueueBuffer::queue, queue);
-    return ze::update(ZE_SITE, b, [&](auto &blk) {
+    auto key = [&](auto &blk) { blk.set(QosQueueBuffer::queue, queue); };
+    return keyed_update<QosQueueBuffer>(ZE_SITE, key, [&](auto &blk) {
         blk.set(QosQueueBuffer::b1, b1);
         blk.set(QosQueueBuffer::b2, b2);
     });
@@ -179,13 +188,14 @@ uint32_t ze_lsw_qos_get_queue_buffer(uint32_t queue, uint32_t *b1, uint32_t *b2)
 }
 
 uint32_t ze_lsw_qos_set_queue_map(uint32_t port, uint32_t priority, uint32_t queue) {
-    ze::Block<QosQueueMap> b = queue_map_key(port, priority);
-    return ze::update(ZE_SITE, b, [&](auto &blk) { blk.set(QosQueueMap::queue, queue); });
+    auto key = [&](auto &blk) { put_queue_map_key(blk, port, priority); };
+    return keyed_update<QosQueueMap>(ZE_SITE, key, [&](auto &blk) { blk.set(QosQueueMap::queue, queue); });
 }
 
 uint32_t ze_lsw_qos_get_queue_map(uint32_t port, uint32_t priority, uint8_t *queue) {
     if (!queue) return ZE_ERR_NULL_PTR;
-    ze::Block<QosQueueMap> b = queue_map_key(port, priority);
+    ze::Block<QosQueueMap> b;
+    put_queue_map_key(b, port, priority);
     return ze::fetch(ZE_SITE, b, [&](const auto &blk) {
         *queue = static_cast<uint8_t>(blk.get(QosQueueMap::queue));
     });

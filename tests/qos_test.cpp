@@ -15,23 +15,23 @@ using zetest::words;
 TEST_F(Qos, SettersChangeOnlyTheirOwnFields) {
     const zetest::Rmw cases[] = {
         {2615, 2614, 28, {{0, 9}}, [] { return ze_lsw_qos_set_queue_shaping(9, 1, 2, 3); },
-         {{8, 1}, {20, 2}, {24, 3}}},
+         {{8, 1}, {20, 2}, {24, 3}}, true},
         {2577, 2576, 12, {{0, 17}}, [] { return ze_lsw_qos_set_queue_buffer(17, 100, 200); },
-         {{4, 100}, {8, 200}}},
+         {{4, 100}, {8, 200}}, true},
         {2575, 2574, 20, {{0, 3}, {4, 0}, {8, 5}},
-         [] { return ze_lsw_qos_set_queue_map(3, 5, 0x106); }, {{16, 0x106}}},
+         [] { return ze_lsw_qos_set_queue_map(3, 5, 0x106); }, {{16, 0x106}}, true},
         {2569, 2568, 16, {{0, 12}}, [] { return ze_lsw_qos_set_in_pri(12, 6); },
-         {{8, 1}, {12, 6}}},
+         {{8, 1}, {12, 6}}, true},
         // Entry 5 of port 2 carries global queue id 21.
         {2579, 2578, 164, {{0, 2}}, [] { return ze_lsw_qos_set_egr_schattr(2, 5, 0x11, 0x1234); },
-         {{104, 1}, {112, 21}, {116, 0x11}, {120, 0x1234}}},
+         {{104, 1}, {112, 21}, {116, 0x11}, {120, 0x1234}}, true},
         {2579, 2578, 164, {{0, 13}}, [] { return ze_lsw_qos_set_egr_schattr(13, 7, 1, 2); },
-         {{144, 1}, {152, 111}, {156, 1}, {160, 2}}},
+         {{144, 1}, {152, 111}, {156, 1}, {160, 2}}, true},
         // Only port 13 carries the special shaping flag.
         {2587, 2586, 24, {{0, 13}}, [] { return ze_lsw_qos_set_egr_shaping(13, 900); },
-         {{12, 1}, {16, 1}, {20, 900}}},
+         {{12, 1}, {16, 1}, {20, 900}}, true},
         {2587, 2586, 24, {{0, 10}}, [] { return ze_lsw_qos_set_egr_shaping(10, 900); },
-         {{12, 1}, {16, 0}, {20, 900}}},
+         {{12, 1}, {16, 0}, {20, 900}}, true},
     };
     for (const auto &c : cases) zetest::expect_rmw(c);
 

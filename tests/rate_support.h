@@ -46,15 +46,24 @@ struct Rmw {
     Fields keys;
     std::function<uint32_t()> call;
     Fields written;
+    bool rekeys = false;  // the call writes its key words again after the read
 };
 
 // Stores a patterned block under the case's key, runs the call and checks
-// the exchange.
+// the exchange. For a call that re-keys, the driver answers with other
+// values in the key words, which must not reach the write.
 inline void expect_rmw(const Rmw &c) {
     zesim::clear_log();
     zesim::Bytes key(c.size), expected = patterned(c.size, c.keys);
     zesim::store(c.get, expected);
     put(key, c.keys);
+    if (c.rekeys) {
+        uint8_t *answer = zesim::stored_block(c.get, key.data());
+        for (auto [off, v] : c.keys) {
+            uint32_t other = v ^ 0x5a000000;
+            std::memcpy(answer + off, &other, 4);
+        }
+    }
     put(expected, c.written);
     ASSERT_EQ(c.call(), 0u) << c.set;
     EXPECT_EQ(zesim::commands(), (Words{c.get, c.set}));
