@@ -14,8 +14,8 @@ protected:
     // An address-table entry stored straight into the simulated table.
     static void put_item(uint32_t index, const uint8_t (&mac)[6], uint32_t vlan, uint32_t egress) {
         zesim::Bytes b(36, 0);
-        std::memcpy(b.data(), &index, 4), std::memcpy(b.data() + 4, mac, 6);
-        std::memcpy(b.data() + 12, &vlan, 4), std::memcpy(b.data() + 24, &egress, 4);
+        std::memcpy(b.data(), &index, 4); std::memcpy(b.data() + 4, mac, 6);
+        std::memcpy(b.data() + 12, &vlan, 4); std::memcpy(b.data() + 24, &egress, 4);
         b[28] = b[32] = 1;  // age_en, valid
         zesim::store(0x704, b);
     }
@@ -86,7 +86,7 @@ TEST_F(MacTest, ItemReadAndListing) {
         EXPECT_EQ(e.valid, 1u); EXPECT_EQ(e.port, port) << index; EXPECT_EQ(e.vlan, vlan); EXPECT_EQ(e.age_en, 1u);
     }
     ze_lsw_l2_entry_s untouched, e;
-    std::memset(&untouched, 0xab, sizeof untouched), e = untouched;
+    std::memset(&untouched, 0xab, sizeof untouched); e = untouched;
     EXPECT_EQ(ze_lsw_mac_get_l2item(7, &e), 0u); EXPECT_EQ(0, std::memcmp(&e, &untouched, sizeof e));
 
     const std::string head = "index   mac                 vlan    fid     egr     age_en     untag   \r\n"

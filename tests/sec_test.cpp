@@ -75,7 +75,7 @@ TEST_F(SecTest, DuplicateFullAndFailedRulesAreRefused) {
 // table rule 0 goes, and a failing driver changes nothing in the result.
 TEST_F(SecTest, DeleteAlwaysSucceedsAndRetiresTheSlotTheSearchNames) {
     auto b = rule(2), unknown = rule(3);
-    add(rule(1)), add(b);
+    add(rule(1)); add(b);
     EXPECT_EQ(ze_lsw_sec_del_ip_filter_table(&b), 0u);
     EXPECT_EQ(sent_word(0), 1u); EXPECT_EQ(sent_word(4), 0u); EXPECT_EQ(sent_word(12), 5u);
     EXPECT_EQ(entries_of(0x408).size(), 1u); EXPECT_EQ(used_slots(), 1u);
@@ -113,7 +113,8 @@ TEST_F(SecTest, SourceMacListing) {
     ze_lsw_sec_set_blackmode(1, 2); ze_lsw_sec_set_blackmode(6, 3);
     ze_lsw_sec_set_blackmode(8, 9);  // no name
     EXPECT_EQ(ze_lsw_sec_diagnose(0), 0u);
-    EXPECT_EQ(take_console(), "GE0     : IGNORE          \r\n\r\nFE1     : BACK            \r\n00:1a:2b:3c:4d:5e\r\n\r\n"
+    EXPECT_EQ(take_console(), "GE0     : IGNORE          \r\n\r\n"
+                              "FE1     : BACK            \r\n00:1a:2b:3c:4d:5e\r\n\r\n"
                               "FE2     : IGNORE          \r\n\r\nFE3     : IGNORE          \r\n\r\n"
                               "FE4     : IGNORE          \r\n\r\nPON     : IGNORE          \r\n\r\n"
                               "CPU     : THRU            \r\n\r\n        : IGNORE          \r\n\r\n"
@@ -127,7 +128,7 @@ TEST_F(SecTest, SourceMacListing) {
 TEST_F(SecTest, IpFilterListing) {
     auto r = rule(2);
     r.mask = 0x1ff;
-    add(r), add(rule(3, 1));
+    add(r); add(rule(3, 1));
     EXPECT_EQ(ze_lsw_sec_diagnose(1), 0u);
     EXPECT_EQ(take_console(),
               "index     porttype  field     ipversion mask      ip        \r\n dmask = 511 smask = 511 \r\n"
