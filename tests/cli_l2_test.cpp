@@ -1,7 +1,6 @@
 // The mac, sec and vlan command handlers: argument order, strict failure
 // folding, and the unchecked ageing-time and IP filter rule commands.
 #include <cstring>
-#include <string>
 
 #include "test_support.h"
 #include "ze_lsw_sec_status.h"
@@ -13,20 +12,15 @@ class CliL2Test : public zetest::SimTest {
 protected:
     void SetUp() override {
         SimTest::SetUp();
-        std::memset(uc_port_vlan_cfg, 0, sizeof uc_port_vlan_cfg);
+        std::memset(uc_port_vlan_cfg, 0, sizeof uc_port_vlan_cfg); std::memset(buf_, 0, sizeof buf_);
         std::memset(st_ip_filter_status, 0, sizeof st_ip_filter_status);
-        std::memset(buf_, 0, sizeof buf_);
     }
     uint32_t run(const std::string &suffix, uint32_t len) {
         reply_ = 0xdeadbeef;
         return call("ze_adapter_cli_" + suffix, buf_, len, &reply_);
     }
     void put(uint32_t off, uint32_t v) { std::memcpy(buf_ + off, &v, 4); }
-    uint32_t at(uint32_t off) const {
-        uint32_t v;
-        std::memcpy(&v, buf_ + off, 4);
-        return v;
-    }
+    uint32_t at(uint32_t off) const { return zetest::word_at(zesim::Bytes(buf_, buf_ + sizeof buf_), off); }
 
     alignas(4) uint8_t buf_[64];
     uint32_t reply_ = 0;
@@ -35,72 +29,48 @@ protected:
 // The VLAN at offset 4 is the API's first argument; the tag commands take
 // port u16 at 0, VLAN u16 at 4 and the mode byte at 6.
 TEST_F(CliL2Test, RequestFieldsReachTheApiInItsOrder) {
-    put(0, 3);
-    put(4, 100);
-    EXPECT_EQ(run("lsw_vlan_add_port", 8), 0u);
-    EXPECT_EQ(reply_, 0xdeadbeefu);
+    put(0, 3); put(4, 100);
+    EXPECT_EQ(run("lsw_vlan_add_port", 8), 0u); EXPECT_EQ(reply_, 0xdeadbeefu);
     EXPECT_EQ(zesim::word(0x400, 16, {100}), 1u);
-
-    put(0, 2);
-    put(4, 100 | 1u << 16);
-    EXPECT_EQ(run("lsw_vlan_set_tag", 8), 0u);
-    EXPECT_EQ(zesim::word(0x343, 12, {100}), 1u);
+    put(0, 2); put(4, 100 | 1u << 16);
+    EXPECT_EQ(run("lsw_vlan_set_tag", 8), 0u); EXPECT_EQ(zesim::word(0x343, 12, {100}), 1u);
     put(4, 100);
-    EXPECT_EQ(run("lsw_vlan_get_tag", 8), 0u);
-    EXPECT_EQ(buf_[6], 1u);
-
+    EXPECT_EQ(run("lsw_vlan_get_tag", 8), 0u); EXPECT_EQ(buf_[6], 1u);
     put(0, 100);  // VLAN u16 at 0, the bitmap replied at 4
-    EXPECT_EQ(run("lsw_vlan_get_port", 8), 0u);
-    EXPECT_EQ(at(4), 0x08u);
+    EXPECT_EQ(run("lsw_vlan_get_port", 8), 0u); EXPECT_EQ(at(4), 0x08u);
 }
 
 // Port 9 (18 from the API) and an empty rule index (14) alike become
 // 0xffffffff, with no reply length.
 TEST_F(CliL2Test, StrictFamiliesFoldFailuresAndReplyOnlyOnSuccess) {
-    const struct {
-        const char *suffix;
-        uint32_t len, first_word;
-    } cases[] = {{"lsw_mac_get_limitcount", 8, 9},
-                 {"lsw_vlan_get_vlanfilter", 8, 9},
-                 {"lsw_sec_get_ip_filtertable", 36, 0}};
-    for (const auto &c : cases) {
-        put(0, c.first_word);
-        EXPECT_EQ(run(c.suffix, c.len), 0xffffffffu) << c.suffix;
-        EXPECT_EQ(reply_, 0xdeadbeefu) << c.suffix;
+    for (auto [suffix, len, first_word] : {std::tuple{"lsw_mac_get_limitcount", 8u, 9u},
+                                           {"lsw_vlan_get_vlanfilter", 8u, 9u},
+                                           {"lsw_sec_get_ip_filtertable", 36u, 0u}}) {
+        put(0, first_word);
+        EXPECT_EQ(run(suffix, len), 0xffffffffu) << suffix; EXPECT_EQ(reply_, 0xdeadbeefu) << suffix;
     }
 }
 
 TEST_F(CliL2Test, AgeTimeCommandsTakeTheBufferUnchecked) {
     put(0, 100000);
-    EXPECT_EQ(run("lsw_mac_set_agetime", 0), 0u);
-    EXPECT_EQ(reply_, 0xdeadbeefu);
+    EXPECT_EQ(run("lsw_mac_set_agetime", 0), 0u); EXPECT_EQ(reply_, 0xdeadbeefu);
     put(0, 0);
-    EXPECT_EQ(run("lsw_mac_get_agetime", 77), 0u);
-    EXPECT_EQ(at(0), 86399u);
-    EXPECT_EQ(reply_, 4u);
+    EXPECT_EQ(run("lsw_mac_get_agetime", 77), 0u); EXPECT_EQ(at(0), 86399u); EXPECT_EQ(reply_, 4u);
     EXPECT_EQ(console(), "");
 }
 
 TEST_F(CliL2Test, RuleCommandsDumpTheRequestAndReplyEightBytes) {
-    put(0, 1);           // porttype
-    put(4, 2);           // field
-    put(12, 0x18);       // mask
-    put(16, 0xc0a8010a); // 192.168.1.10
-    EXPECT_EQ(run("lsw_sec_add_ip_filtertable", 3), 0u);
-    EXPECT_EQ(reply_, 8u);
+    put(0, 1); put(4, 2); put(12, 0x18); put(16, 0xc0a8010a);  // porttype, field, mask, 192.168.1.10
+    EXPECT_EQ(run("lsw_sec_add_ip_filtertable", 3), 0u); EXPECT_EQ(reply_, 8u);
     char want[160];
     std::snprintf(want, sizeof want,
                   "\r\n[0x%08x] : 01 00 00 00 02 00 00 00 00 00 00 00 18 00 00 00 "
                   "\r\n[0x%08x] : 0a 01 a8 c0 00 00 00 00 00 00 00 00 00 00 00 00 \r\n",
                   static_cast<uint32_t>(reinterpret_cast<uintptr_t>(buf_)),
                   static_cast<uint32_t>(reinterpret_cast<uintptr_t>(buf_ + 16)));
-    EXPECT_EQ(take_console(), want);
-    EXPECT_EQ(st_ip_filter_status[0].used, 1u);
-
-    EXPECT_EQ(run("lsw_sec_add_ip_filtertable", 32), 0xffffffffu);  // duplicate
-    EXPECT_EQ(reply_, 0xdeadbeefu);
-    EXPECT_EQ(run("lsw_sec_del_ip_filtertable", 0), 0u);
-    EXPECT_EQ(reply_, 8u);
+    EXPECT_EQ(take_console(), want); EXPECT_EQ(st_ip_filter_status[0].used, 1u);
+    EXPECT_EQ(run("lsw_sec_add_ip_filtertable", 32), 0xffffffffu); EXPECT_EQ(reply_, 0xdeadbeefu);  // duplicate
+    EXPECT_EQ(run("lsw_sec_del_ip_filtertable", 0), 0u); EXPECT_EQ(reply_, 8u);
     EXPECT_EQ(st_ip_filter_status[0].used, 0u);
 }
 
