@@ -267,14 +267,12 @@ TEST_F(Pm, AFailedReadPrintsNothing) {
 // Out-of-range ports are refused before any read (only the drop reasons
 // leave a trace); the Ethernet and UGMAC line statistics do nothing.
 TEST_F(Pm, RefusedPortsAndEmptyFunctionsTouchNothing) {
-    EXPECT_EQ(ze_lsw_pm_get_eth_statistic(3), 0u);
-    EXPECT_EQ(ze_lsw_pm_get_ugmac_line_statistic(), 0u);
+    EXPECT_EQ(ze_lsw_pm_get_eth_statistic(3) | ze_lsw_pm_get_ugmac_line_statistic(), 0u);
     EXPECT_EQ(ze_lsw_pm_get_uni_eth_statistic(5), ZE_ERR_PARAM);
     EXPECT_TRUE(traces().empty());
     EXPECT_EQ(ze_lsw_pm_get_drop_reason_statistic(9), ZE_ERR_PARAM);
     expect_one_trace("ze_lsw_pm_get_drop_reason_statistic", ZE_ERR_PARAM);
-    EXPECT_TRUE(zesim::log().empty());
-    EXPECT_TRUE(console().empty());
+    EXPECT_TRUE(zesim::log().empty() && console().empty());
 }
 
 }  // namespace
