@@ -4,17 +4,14 @@
 // ZE_UPDATE_GOLDEN=1 only after checking the new text by hand.
 #include <cstdlib>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 
 #include "test_support.h"
 #include "ze_lsw_pm.h"
 
 namespace {
 
-struct GroupCase {
-    const char *golden;
-    uint32_t (*print)();
-};
+struct GroupCase { const char *golden; uint32_t (*print)(); };
 
 // A group printed by its function of no argument, golden file of its name.
 #define GROUP(name) {#name, ze_lsw_pm_get_##name##_statistic}
@@ -33,26 +30,16 @@ const GroupCase kGroups[] = {
     {"ipv6_index3", [] { return ze_lsw_pm_get_ipv6_statistic(3); }},
 };
 
-std::string golden_path(const char *name) {
-    std::string here = __FILE__;
-    return here.substr(0, here.rfind('/')) + "/golden/pm/" + name + ".txt";
-}
-
-std::string read_file(const std::string &path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
-
 class PmGroups : public zetest::SimTest, public ::testing::WithParamInterface<GroupCase> {};
 
 TEST_P(PmGroups, PrintsItsTableOverTheFillPattern) {
     zesim::fill_counters();
     ASSERT_EQ(GetParam().print(), 0u);
-    const std::string path = golden_path(GetParam().golden);
+    const std::string path = std::string(__FILE__).substr(0, std::string(__FILE__).rfind('/')) +
+                             "/golden/pm/" + GetParam().golden + ".txt";
     if (std::getenv("ZE_UPDATE_GOLDEN")) std::ofstream(path, std::ios::binary) << console();
-    EXPECT_EQ(console(), read_file(path)) << path;
+    std::ifstream in(path, std::ios::binary);
+    EXPECT_EQ(console(), std::string(std::istreambuf_iterator<char>(in), {})) << path;
     EXPECT_TRUE(traces().empty());  // the success path leaves no trace record
 }
 
