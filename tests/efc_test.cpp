@@ -11,8 +11,9 @@ using EfcTest = FlowTest;
 
 // Single keys of types 6 (0x800), 15 (6) and 7 (2): two items, the second
 // half empty.
-ze_efc_rule_s three_singles(uint32_t more_bits) {
-    return {.key_mask = (1u << 7) | (1u << 10) | (1u << 15) | more_bits, .key10 = 6, .key7 = 0x0800, .key15 = 2};
+ze_efc_rule_s three_singles(uint32_t more_bits = 0, uint32_t n_base = 0, uint8_t igr_port = 0) {
+    return {.key_mask = (1u << 7) | (1u << 10) | (1u << 15) | more_bits, .n_base = n_base, .key10 = 6,
+            .igr_port = igr_port, .key7 = 0x0800, .key15 = 2};
 }
 
 // Installs a rule searching from `first`; returns its fid.
@@ -44,7 +45,7 @@ std::vector<ItemCase> item_cases() {
         // first address byte low in k0; ~0xffffff00 and ~0xfff0 as 16 bits
         {"dmac, smac", macs, {{4, 8, 1, 1, 0x5544, 0x33221100}, {0, 0, 2, 2, 0xffff, 0xffffffff}}, 0},
         // the closing line shows the item current after the placement
-        {"odd singles leave a half item", three_singles(0), {{0, 0, 15, 6, 6, 0x800}, {0, 0, 0, 7, 0, 2}}, 1,
+        {"odd singles leave a half item", three_singles(), {{0, 0, 15, 6, 6, 0x800}, {0, 0, 0, 7, 0, 2}}, 1,
          {"ze_lsw_efc_get_value() entry 0       6       2048    6       \n",
           "ze_lsw_efc_get_value() end 6       2048    0       0       \n",
           "ze_lsw_efc_get_value() entry 0       15      6       15      \n", "ze_lsw_efc_get_value() index:1  \n",
@@ -96,7 +97,12 @@ TEST_F(EfcTest, MaskCountStopsAtTheWordWidthAndPlacementAtTheListEnd) {
 
 // Free-run search: fids in use given as ranges, then the search.
 TEST_F(EfcTest, FreeRunSearch) {
-    struct Case { const char *name; std::vector<std::pair<uint32_t, uint32_t>> used; uint32_t first, count, result; uint16_t fid; };
+    struct Case {
+        const char *name;
+        std::vector<std::pair<uint32_t, uint32_t>> used;
+        uint32_t first, count, result;
+        uint16_t fid;
+    };
     const Case cases[] = {
         {"first free", {}, 1, 1, 0, 1},
         {"skips used", {{1, 2}}, 1, 1, 0, 3},
@@ -135,10 +141,8 @@ TEST_F(EfcTest, RuleRangeWalksBackToThePreviousRule) {
 // One block per item with eof on the last; a rule without keys still takes
 // one entry.
 TEST_F(EfcTest, InstallWritesOneBlockPerItemWithEofOnTheLast) {
-    ze_efc_rule_s r = three_singles(1u << 0);
-    r.n_base = 1;
-    r.igr_port = 2;
-    EXPECT_EQ(install(r, 1, {.act_mask = (1u << 12) | (1u << 2), .egress_port = 5, .ext = 0x11, .spri = 3, .svlan = 200}, 4), 2);
+    ze_efc_action_s a{.act_mask = (1u << 12) | (1u << 2), .egress_port = 5, .ext = 0x11, .spri = 3, .svlan = 200};
+    EXPECT_EQ(install(three_singles(1u << 0, 1, 2), 1, a, 4), 2);
     expect_debug_under("ze_lsw_");
     auto writes = entries_of(0x505);
     ASSERT_EQ(writes.size(), 2u);
@@ -163,9 +167,8 @@ TEST_F(EfcTest, InstallWritesOneBlockPerItemWithEofOnTheLast) {
 
 TEST_F(EfcTest, ActionGroupsKeepTheirHighestBit) {
     const uint32_t cases[][4] = {  // mask, forward action, offset, value
-        {(1u << 15) | (1u << 17), 0, 88, 3}, {(1u << 0) | (1u << 1), 0, 84, 2},
-        {(1u << 7) | (1u << 11), 0, 104, 5}, {1u << 13, 0, 96, 2},
-        {0, 12, 120, 12},                    {0, 13, 120, 0},
+        {(1u << 15) | (1u << 17), 0, 88, 3}, {(1u << 0) | (1u << 1), 0, 84, 2}, {(1u << 7) | (1u << 11), 0, 104, 5},
+        {1u << 13, 0, 96, 2},                {0, 12, 120, 12},                 {0, 13, 120, 0},
     };
     for (const auto &c : cases) {
         uint8_t block[216] = {};

@@ -52,15 +52,22 @@ TEST_F(SfcTest, FullTableThenLowestFreeSfidReused) {
     EXPECT_EQ(sfid, 3);
 }
 
-TEST_F(SfcTest, DeleteRefusals) {
+// Refused deletes write nothing; a failed write keeps the shadow, and the
+// delete of all stops at the first GEM port failure.
+TEST_F(SfcTest, DeleteRefusalsAndFailures) {
     EXPECT_EQ(ze_lsw_flow_delete_sfc(5), 14u);  // free
     EXPECT_EQ(last_trace_of("ze_lsw_flow_delete_sfc").result, 18u);
     EXPECT_EQ(ze_lsw_flow_delete_sfc(200), 18u);
     EXPECT_TRUE(zesim::commands().empty());
-    install_vlans(1);
-    zesim::fail(0x507, 0xf0000101);
+    install_vlans(3);
+    zesim::fail(0x507, 0xf0000101, 1);
     EXPECT_EQ(ze_lsw_flow_delete_sfc(0), 18u);
-    EXPECT_EQ(st_sfcmapping[0].status, 1);  // a failed write keeps the shadow
+    EXPECT_EQ(st_sfcmapping[0].status, 1);
+    zesim::clear_log();
+    zesim::fail(0xb04, 0x1234, 2);
+    EXPECT_EQ(ze_lsw_flow_sfc_delete_all(), 0xffffffffu);
+    EXPECT_EQ(entries_of(0x507).size(), 1u);  // sfid 0 removed
+    EXPECT_EQ(st_sfcmapping[1].status, 1);
 }
 
 TEST_F(SfcTest, DeleteAllClearsOnlyTheFirst2560BytesOfTheShadow) {
@@ -74,14 +81,6 @@ TEST_F(SfcTest, DeleteAllClearsOnlyTheFirst2560BytesOfTheShadow) {
     EXPECT_EQ(st_sfcmapping[106].status, 0);
     EXPECT_EQ(st_sfcmapping[106].mapping.fifth, 0x5555);  // the tail of entry 106 survives
     for (uint32_t s = 107; s < 128; ++s) EXPECT_EQ(gem_shadow(s), std::tuple(1, 8, 4096)) << s;
-}
-
-TEST_F(SfcTest, DeleteAllStopsAtTheFirstGemPortFailure) {
-    install_vlans(3);
-    zesim::fail(0xb04, 0x1234, 2);
-    EXPECT_EQ(ze_lsw_flow_sfc_delete_all(), 0xffffffffu);
-    EXPECT_EQ(entries_of(0x507).size(), 3u + 1u);  // three installs, sfid 0 removed
-    EXPECT_EQ(st_sfcmapping[1].status, 1);
 }
 
 TEST_F(SfcTest, GemPortSearchesFollowDirectionAndStart) {
@@ -111,8 +110,7 @@ TEST_F(SfcTest, GemPortSearchesFollowDirectionAndStart) {
 // The VLAN search traces nothing; the record search compares every byte.
 TEST_F(SfcTest, SearchesByVlanAndByRecord) {
     install_vlans(2);
-    st_sfcmapping[1].gemport = 1234;
-    st_sfcmapping[1].tcont = 3;
+    ze_lsw_flow_save_gemmap(1, 3, 1234);
     uint16_t gem = 0, tcont = 0, sfid = 0;
     ze_sfc_mapping_s m;
     ze_host_trace_clear();
