@@ -25,56 +25,45 @@ uint16_t install(const ze_efc_rule_s &r, uint32_t first = 1, const ze_efc_action
 
 // Key items of representative rules (item words are m1, m0, g1, g0, k1, k0)
 // and, when given, the first debug lines of the conversion.
-struct ItemCase {
-    const char *name;
-    ze_efc_rule_s rule;
-    std::vector<ze_efc_item_s> items;
-    uint32_t g0status;
-    std::vector<std::string> lines;
-};
-
-std::vector<ItemCase> item_cases() {
+TEST_F(EfcTest, RuleToKeyItems) {
+    auto check = [&](const char *name, const ze_efc_rule_s &r, const std::vector<ze_efc_item_s> &want,
+                     uint32_t g0status, const std::vector<std::string> &want_lines = {}) {
+        ze_host_trace_clear();
+        ze_efc_item_s items[ZE_EFC_ITEM_COUNT] = {};
+        uint8_t count = 0xff;
+        ASSERT_EQ(ze_lsw_efc_get_attr(&r, items), 0u) << name;
+        expect_debug_under("ze_lsw_efc_get_");
+        auto lines = debug_lines();
+        EXPECT_EQ(std::vector(lines.begin(), lines.begin() + std::min(lines.size(), want_lines.size())), want_lines)
+            << name;
+        ze_lsw_efc_count_itemnum(items, &count);
+        ASSERT_EQ(count, want.size()) << name;
+        for (size_t i = 0; i < want.size(); ++i)
+            EXPECT_EQ(std::memcmp(&items[i], &want[i], sizeof items[i]), 0) << name << " item " << i;
+        EXPECT_EQ(ui_g0status, g0status) << name;
+    };
     ze_efc_rule_s macs = rule(0x6);  // each MAC address a whole item
     const uint8_t addr[12] = {0x00, 0x11, 0x22, 0x33, 0x44, 0x55, 0xff, 0xff, 0xff, 0x00, 0xff, 0xf0};
     std::memcpy(macs.dmac, addr, 12);
     std::memset(macs.smac, 0xff, 12);
-    ze_efc_rule_s halves{.key_mask = (1u << 3) | (1u << 4) | (1u << 18) | (1u << 19),
-                         .dip = 0x0a000001, .dip_mask = 0xffffff00, .sip = 0xc0a80001, .sip_mask = 0xffff0000,
-                         .key18_19 = 0x1234, .key18_19_masknum = 5};
-    return {
-        // first address byte low in k0; ~0xffffff00 and ~0xfff0 as 16 bits
-        {"dmac, smac", macs, {{4, 8, 1, 1, 0x5544, 0x33221100}, {0, 0, 2, 2, 0xffff, 0xffffffff}}, 0},
-        // the closing line shows the item current after the placement
-        {"odd singles leave a half item", three_singles(), {{0, 0, 15, 6, 6, 0x800}, {0, 0, 0, 7, 0, 2}}, 1,
-         {"ze_lsw_efc_get_value() entry 0       6       2048    6       \n",
-          "ze_lsw_efc_get_value() end 6       2048    0       0       \n",
-          "ze_lsw_efc_get_value() entry 0       15      6       15      \n", "ze_lsw_efc_get_value() index:1  \n",
-          "ze_lsw_efc_get_value() end 0       0       0       0       \n"}},
-        {"ipv4 pair, counted pair", halves, {{16, 8, 4, 3, 0xc0a80001, 0x0a000001}, {5, 5, 17, 11, 0x1234, 0x1234}}, 0},
-        {"lone address", ip_rule(0x0a000001), {{0, 0, 0, 3, 0, 0x0a000001}}, 1,
-         {"ze_lsw_efc_get_masknum() entry ui_bitmask = 0\r\n", "~~~dip = 0xa000001 \r\n",
-          "~ui_dipmask = 0xffffffff \r\n", "~ui_m0 = 0x0 \r\n"}},
-        {"no keys", rule(0), {}, 0},
-        {"ingress port only", rule(1), {}, 0},
-        {"bits past 21", rule(3u << 22), {}, 0},
-    };
-}
-
-TEST_F(EfcTest, RuleToKeyItems) {
-    for (const ItemCase &c : item_cases()) {
-        ze_host_trace_clear();
-        ze_efc_item_s items[ZE_EFC_ITEM_COUNT] = {};
-        uint8_t count = 0xff;
-        ASSERT_EQ(ze_lsw_efc_get_attr(&c.rule, items), 0u) << c.name;
-        expect_debug_under("ze_lsw_efc_get_");
-        auto lines = debug_lines();
-        EXPECT_EQ(std::vector(lines.begin(), lines.begin() + std::min(lines.size(), c.lines.size())), c.lines) << c.name;
-        ze_lsw_efc_count_itemnum(items, &count);
-        ASSERT_EQ(count, c.items.size()) << c.name;
-        for (size_t i = 0; i < c.items.size(); ++i)
-            EXPECT_EQ(std::memcmp(&items[i], &c.items[i], sizeof items[i]), 0) << c.name << " item " << i;
-        EXPECT_EQ(ui_g0status, c.g0status) << c.name;
-    }
+    // first address byte low in k0; ~0xffffff00 and ~0xfff0 as 16 bits
+    check("dmac, smac", macs, {{4, 8, 1, 1, 0x5544, 0x33221100}, {0, 0, 2, 2, 0xffff, 0xffffffff}}, 0);
+    // the closing line shows the item current after the placement
+    check("odd singles leave a half item", three_singles(), {{0, 0, 15, 6, 6, 0x800}, {0, 0, 0, 7, 0, 2}}, 1,
+          {"ze_lsw_efc_get_value() entry 0       6       2048    6       \n",
+           "ze_lsw_efc_get_value() end 6       2048    0       0       \n",
+           "ze_lsw_efc_get_value() entry 0       15      6       15      \n", "ze_lsw_efc_get_value() index:1  \n",
+           "ze_lsw_efc_get_value() end 0       0       0       0       \n"});
+    check("ipv4 pair, counted pair",
+          {.key_mask = (1u << 3) | (1u << 4) | (1u << 18) | (1u << 19), .dip = 0x0a000001, .dip_mask = 0xffffff00,
+           .sip = 0xc0a80001, .sip_mask = 0xffff0000, .key18_19 = 0x1234, .key18_19_masknum = 5},
+          {{16, 8, 4, 3, 0xc0a80001, 0x0a000001}, {5, 5, 17, 11, 0x1234, 0x1234}}, 0);
+    check("lone address", ip_rule(0x0a000001), {{0, 0, 0, 3, 0, 0x0a000001}}, 1,
+          {"ze_lsw_efc_get_masknum() entry ui_bitmask = 0\r\n", "~~~dip = 0xa000001 \r\n",
+           "~ui_dipmask = 0xffffffff \r\n", "~ui_m0 = 0x0 \r\n"});
+    check("no keys", rule(0), {}, 0);
+    check("ingress port only", rule(1), {}, 0);
+    check("bits past 21", rule(3u << 22), {}, 0);
 }
 
 TEST_F(EfcTest, MaskCountStopsAtTheWordWidthAndPlacementAtTheListEnd) {
@@ -144,16 +133,14 @@ TEST_F(EfcTest, InstallWritesOneBlockPerItemWithEofOnTheLast) {
     ze_efc_action_s a{.act_mask = (1u << 12) | (1u << 2), .egress_port = 5, .ext = 0x11, .spri = 3, .svlan = 200};
     EXPECT_EQ(install(three_singles(1u << 0, 1, 2), 1, a, 4), 2);
     expect_debug_under("ze_lsw_");
+    ASSERT_EQ(zesim::commands(), (std::vector<uint32_t>{0x505, 0x505}));
     auto writes = entries_of(0x505);
-    ASSERT_EQ(writes.size(), 2u);
-    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0x505, 0x505}));
     // offset -> value of the first and the second entry
     const uint32_t expect[][3] = {
-        {0, 1, 2},      {4, 1, 2},       {8, 1, 1},     {12, 0, 1},      {16, 6, 7},
-        {20, 0x800, 2}, {24, 0, 0},      {28, 3, 3},    {32, 15, 0},     {36, 6, 0},
-        {40, 0, 0},     {44, 3, 3},      {48, 0x4, 0x4}, {84, 0, 0},     {96, 1, 1},
-        {100, 200, 200}, {112, 1, 1},    {116, 3, 3},   {120, 4, 4},     {124, 0x20, 0x20},
-        {152, 7, 7},    {156, 1, 1},     {164, 0x11, 0x11}, {196, 5, 5}, {200, 5, 5},
+        {0, 1, 2},     {4, 1, 2},      {8, 1, 1},       {12, 0, 1},       {16, 6, 7},   {20, 0x800, 2}, {24, 0, 0},
+        {28, 3, 3},    {32, 15, 0},    {36, 6, 0},      {40, 0, 0},       {44, 3, 3},   {48, 0x4, 0x4}, {84, 0, 0},
+        {96, 1, 1},    {100, 200, 200}, {112, 1, 1},    {116, 3, 3},      {120, 4, 4},  {124, 0x20, 0x20},
+        {152, 7, 7},   {156, 1, 1},    {164, 0x11, 0x11}, {196, 5, 5},    {200, 5, 5},
     };
     for (const auto &e : expect) {
         EXPECT_EQ(word_at(writes[0].sent, e[0]), e[1]) << "first, offset " << e[0];

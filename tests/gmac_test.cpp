@@ -8,15 +8,23 @@ namespace {
 using namespace zetest;
 using GmacTest = FlowTest;
 
-// A set maps, brings the port up and records the shadow; a failure stops it
-// and keeps the earlier steps.
-TEST_F(GmacTest, SetMapsBringsThePortUpAndRecordsTheShadow) {
+// A set maps, brings the port up and records the shadow; a delete empties
+// the mapping and invalidates the port; a failure stops a set and keeps the
+// earlier steps.
+TEST_F(GmacTest, SetMapsBringsThePortUpDeleteInvalidatesIt) {
     zesim::set_word(0x202, 12, 1, {1001});  // AES already on
     ASSERT_EQ(ze_gmac_set_gemport(4, 2, 1001), 0u);
     EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xb05, 0x202, 0x203}));
     expect_words(entries_of(0xb05)[0].sent, {{0, 4}, {4, 1001}, {8, 2}});
     expect_words(entries_of(0x203)[0].sent, {{0, 1001}, {8, 2}, {12, 1}, {16, 1}});
     EXPECT_EQ(gem_shadow(4), std::tuple(1, 2, 1001));
+    zesim::clear_log();
+    ASSERT_EQ(ze_gmac_del_gemport(4), 0u);
+    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xb04, 0xb05, 0x202, 0x203}));
+    EXPECT_EQ(zesim::word(0xb04, 4, {4}), 4096u);
+    EXPECT_EQ(zesim::word(0xb04, 8, {4}), 8u);
+    EXPECT_EQ(zesim::word(0x202, 16, {1001}), 0u);
+    EXPECT_EQ(gem_shadow(4), std::tuple(1, 8, 4096));  // in use, without a GEM port
     zesim::fail(0x203, 0xf0000101);
     EXPECT_EQ(ze_gmac_set_gemport(5, 3, 1002), 18u);
     EXPECT_EQ(zesim::word(0xb04, 4, {5}), 1002u);
@@ -25,8 +33,7 @@ TEST_F(GmacTest, SetMapsBringsThePortUpAndRecordsTheShadow) {
     EXPECT_EQ(ze_gmac_set_gemport(200, 2, 1001), 0xffffffffu);  // the shadow refuses 200
 }
 
-// A never-written mapping reads empty and its delete sends no set.
-TEST_F(GmacTest, DeleteEmptiesTheMappingAndInvalidatesThePort) {
+TEST_F(GmacTest, NeverWrittenMappingIsEmptyAndItsDeleteSendsNoSet) {
     uint8_t tcont = 0;
     uint16_t gem = 0;
     ASSERT_EQ(ze_gmac_get_gemport(17, &tcont, &gem), 0u);
@@ -36,14 +43,6 @@ TEST_F(GmacTest, DeleteEmptiesTheMappingAndInvalidatesThePort) {
     ASSERT_EQ(ze_gmac_del_gemport(9), 0u);
     EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xb04}));
     EXPECT_EQ(st_sfcmapping[9].status, 0);
-    ASSERT_EQ(ze_gmac_set_gemport(4, 2, 1001), 0u);
-    zesim::clear_log();
-    ASSERT_EQ(ze_gmac_del_gemport(4), 0u);
-    EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0xb04, 0xb05, 0x202, 0x203}));
-    EXPECT_EQ(zesim::word(0xb04, 4, {4}), 4096u);
-    EXPECT_EQ(zesim::word(0xb04, 8, {4}), 8u);
-    EXPECT_EQ(zesim::word(0x202, 16, {1001}), 0u);
-    EXPECT_EQ(gem_shadow(4), std::tuple(1, 8, 4096));  // in use, without a GEM port
 }
 
 TEST_F(GmacTest, DownstreamTypeSetOverwritesTheWholeBlock) {

@@ -77,8 +77,7 @@ TEST_F(SfcTest, DeleteAllClearsOnlyTheFirst2560BytesOfTheShadow) {
     ASSERT_EQ(ze_lsw_flow_sfc_delete_all(), 0u);
     EXPECT_EQ(entries_of(0x507).size(), 128u);
     EXPECT_EQ(entries_of(0xb05).size(), 128u);  // every GEM port removed first
-    EXPECT_EQ(st_sfcmapping[105].status, 0);
-    EXPECT_EQ(st_sfcmapping[106].status, 0);
+    EXPECT_EQ(std::tuple(st_sfcmapping[105].status, st_sfcmapping[106].status), std::tuple(0, 0));
     EXPECT_EQ(st_sfcmapping[106].mapping.fifth, 0x5555);  // the tail of entry 106 survives
     for (uint32_t s = 107; s < 128; ++s) EXPECT_EQ(gem_shadow(s), std::tuple(1, 8, 4096)) << s;
 }
@@ -89,8 +88,7 @@ TEST_F(SfcTest, GemPortSearchesFollowDirectionAndStart) {
     const uint16_t gem[] = {77, 77, 88, 77};
     for (uint32_t s = 0; s < 4; ++s) st_sfcmapping[s] = {s < 3 ? uint8_t{1} : uint8_t{0}, 0, gem[s], {.igr = igr[s]}};
     const uint32_t cases[][5] = {  // GEM port, direction, first, result, sfid
-        {77, 0, 0, 0, 1}, {77, 1, 0, 0, 0}, {77, 1, 1, 18, 0xffff}, {77, 2, 0, 18, 0xffff},
-        {77, 0, 128, 18, 0xffff},
+        {77, 0, 0, 0, 1}, {77, 1, 0, 0, 0}, {77, 1, 1, 18, 0xffff}, {77, 2, 0, 18, 0xffff}, {77, 0, 128, 18, 0xffff},
     };
     for (const auto &c : cases) {
         uint16_t sfid = 0xffff;
