@@ -64,17 +64,16 @@ TEST_F(FlowServiceTest, DeleteAllRemovesServicesBeforeMappings) {
     ze_efc_rule_s r = ip_rule(0x0a000003);
     ze_efc_action_s a = action();
     ze_sfc_mapping_s m = vlan_mapping(400);
-    uint16_t id = 0;
-    ASSERT_EQ(ze_lsw_flow_add_mapping(&m, 0, &id), 0u);
-    ASSERT_EQ(ze_lsw_flow_add_service(&r, &a, 0, &id), 0u);
+    uint16_t sfid = 0;
+    ASSERT_EQ(ze_lsw_flow_add_mapping(&m, 0, &sfid), 0u);
+    ASSERT_EQ(ze_lsw_flow_add_service(&r, &a, 0, nullptr), 0u);
     zesim::clear_log();
     ASSERT_EQ(ze_lsw_flow_del_all(0, 0, 0, 0), 0u);
     EXPECT_EQ(zesim::commands(), (std::vector<uint32_t>{0x505, 0xb04, 0x507}));
-    EXPECT_EQ(st_efcservice[1].status, 0);
-    EXPECT_EQ(st_sfcmapping[0].status, 0);
+    EXPECT_EQ(std::tuple(st_efcservice[1].status, st_sfcmapping[0].status), std::tuple(0, 0));
     // The install's 18 is remapped like any inner result.
     zesim::fail(0x505, 0xf0000101);
-    EXPECT_EQ(ze_lsw_flow_add_service(&r, &a, 0, &id), 0xffffffffu);
+    EXPECT_EQ(ze_lsw_flow_add_service(&r, &a, 0, nullptr), 0xffffffffu);
 }
 
 TEST_F(FlowServiceTest, IgmpPriorityService) {

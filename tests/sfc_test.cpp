@@ -20,8 +20,8 @@ void install_vlans(uint32_t n) {
 }
 
 TEST_F(SfcTest, InstallWritesEveryKeyOfTheMaskWithoutReadingFirst) {
-    // each key's mode: 7 / 5 = 1
-    ze_sfc_mapping_s m{.key_mask = 0x1f, .match_mode = 7, .igr = 0x21, .vlan = 300, .fid = 9, .pri = 5, .fifth = 0x4242};
+    ze_sfc_mapping_s m{.key_mask = 0x1f, .match_mode = 7 /* each key's mode: 7 / 5 = 1 */, .igr = 0x21,
+                       .vlan = 300, .fid = 9, .pri = 5, .fifth = 0x4242};
     uint16_t sfid = 0xffff;
     ASSERT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0u);
     EXPECT_EQ(sfid, 0);
