@@ -2,33 +2,28 @@
 // shadow tables and half-item flag, and helpers that build records.
 #pragma once
 
-#include <algorithm>
 #include <cstring>
 #include <string>
+#include <tuple>
 
 #include "test_support.h"
 #include "ze_host.h"
 #include "ze_lsw_flow.h"
 #include "ze_lsw_flow_shadow.h"
 
+// Records are built with designated initializers: members left out are zero.
+#pragma GCC diagnostic ignored "-Wmissing-field-initializers"
+
 namespace zetest {
 
+// Every byte of a record is set, pad included: searches compare every byte.
 inline ze_sfc_mapping_s vlan_mapping(uint16_t vlan, uint32_t mask = ZE_SFC_KEY_VLAN) {
-    ze_sfc_mapping_s m{};  // padding zeroed too: searches compare every byte
-    m.key_mask = mask;
-    m.vlan = vlan;
-    return m;
+    return {.key_mask = mask, .vlan = vlan};
 }
-inline ze_efc_rule_s rule(uint32_t mask) {
-    ze_efc_rule_s r{};
-    r.key_mask = mask;
-    return r;
-}
-inline ze_efc_action_s action(uint32_t mask = 0) {
-    ze_efc_action_s a{};
-    a.act_mask = mask;
-    return a;
-}
+inline ze_efc_rule_s rule(uint32_t mask) { return {.key_mask = mask}; }
+inline ze_efc_action_s action(uint32_t mask = 0) { return {.act_mask = mask}; }
+// A rule on the destination address alone, every bit compared.
+inline ze_efc_rule_s ip_rule(uint32_t dip) { return {.key_mask = 1u << 3, .dip = dip, .dip_mask = 0xffffffff}; }
 // Checks words of a block sent to the datapath: {offset, value} pairs.
 inline void expect_words(const zesim::Bytes &b, std::initializer_list<std::pair<uint32_t, uint32_t>> want) {
     for (auto [offset, value] : want) EXPECT_EQ(word_at(b, offset), value) << "offset " << offset;
@@ -36,6 +31,10 @@ inline void expect_words(const zesim::Bytes &b, std::initializer_list<std::pair<
 // Marks fids [from, to] in use (single-entry rules' eof left 0).
 inline void occupy_fids(uint32_t from, uint32_t to) {
     for (uint32_t f = from; f <= to; ++f) st_efcservice[f].status = 1;
+}
+// Status, T-CONT and GEM port of an sfid's shadow entry.
+inline std::tuple<int, int, int> gem_shadow(uint32_t sfid) {
+    return {st_sfcmapping[sfid].status, st_sfcmapping[sfid].tcont, st_sfcmapping[sfid].gemport};
 }
 
 class FlowTest : public SimTest {
@@ -53,12 +52,12 @@ protected:
         SimTest::TearDown();
     }
 
-    // The last trace record of a function.
-    bool last_trace_of(const std::string &func, ze_host_trace_rec &out) const {
-        const auto &all = traces();
-        auto it = std::find_if(all.rbegin(), all.rend(), [&](const auto &t) { return func == t.func; });
-        if (it != all.rend()) out = *it;
-        return it != all.rend();
+    // The last trace record of a function (all zero when there is none).
+    ze_host_trace_rec last_trace_of(const std::string &func) const {
+        ze_host_trace_rec out{};
+        for (const auto &t : traces())
+            if (func == t.func) out = t;
+        return out;
     }
 
     // Every debug record names a function whose name starts with `prefix`

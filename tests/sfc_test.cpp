@@ -6,10 +6,8 @@
 
 namespace {
 
-using zetest::entries_of;
-using zetest::expect_words;
-using SfcTest = zetest::FlowTest;
-using zetest::vlan_mapping;
+using namespace zetest;
+using SfcTest = FlowTest;
 
 // Installs `n` VLAN mappings 100, 101, ... and saves them as the add does.
 void install_vlans(uint32_t n) {
@@ -22,12 +20,8 @@ void install_vlans(uint32_t n) {
 }
 
 TEST_F(SfcTest, InstallWritesEveryKeyOfTheMaskWithoutReadingFirst) {
-    ze_sfc_mapping_s m = vlan_mapping(300, 0x1f);
-    m.match_mode = 7;  // each key's mode: 7 / 5 = 1
-    m.igr = 0x21;
-    m.fid = 9;
-    m.pri = 5;
-    m.fifth = 0x4242;
+    ze_sfc_mapping_s m{.key_mask = 0x1f, .match_mode = 7 /* each key's mode: 7 / 5 = 1 */, .igr = 0x21,
+                       .vlan = 300, .fid = 9, .pri = 5, .fifth = 0x4242};
     uint16_t sfid = 0xffff;
     ASSERT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0u);
     EXPECT_EQ(sfid, 0);
@@ -58,17 +52,22 @@ TEST_F(SfcTest, FullTableThenLowestFreeSfidReused) {
     EXPECT_EQ(sfid, 3);
 }
 
-TEST_F(SfcTest, DeleteRefusals) {
+// Refused deletes write nothing; a failed write keeps the shadow, and the
+// delete of all stops at the first GEM port failure.
+TEST_F(SfcTest, DeleteRefusalsAndFailures) {
     EXPECT_EQ(ze_lsw_flow_delete_sfc(5), 14u);  // free
-    ze_host_trace_rec t;
-    ASSERT_TRUE(last_trace_of("ze_lsw_flow_delete_sfc", t));
-    EXPECT_EQ(t.result, 18u);
+    EXPECT_EQ(last_trace_of("ze_lsw_flow_delete_sfc").result, 18u);
     EXPECT_EQ(ze_lsw_flow_delete_sfc(200), 18u);
     EXPECT_TRUE(zesim::commands().empty());
-    install_vlans(1);
-    zesim::fail(0x507, 0xf0000101);
+    install_vlans(3);
+    zesim::fail(0x507, 0xf0000101, 1);
     EXPECT_EQ(ze_lsw_flow_delete_sfc(0), 18u);
-    EXPECT_EQ(st_sfcmapping[0].status, 1);  // a failed write keeps the shadow
+    EXPECT_EQ(st_sfcmapping[0].status, 1);
+    zesim::clear_log();
+    zesim::fail(0xb04, 0x1234, 2);
+    EXPECT_EQ(ze_lsw_flow_sfc_delete_all(), 0xffffffffu);
+    EXPECT_EQ(entries_of(0x507).size(), 1u);  // sfid 0 removed
+    EXPECT_EQ(st_sfcmapping[1].status, 1);
 }
 
 TEST_F(SfcTest, DeleteAllClearsOnlyTheFirst2560BytesOfTheShadow) {
@@ -78,34 +77,18 @@ TEST_F(SfcTest, DeleteAllClearsOnlyTheFirst2560BytesOfTheShadow) {
     ASSERT_EQ(ze_lsw_flow_sfc_delete_all(), 0u);
     EXPECT_EQ(entries_of(0x507).size(), 128u);
     EXPECT_EQ(entries_of(0xb05).size(), 128u);  // every GEM port removed first
-    EXPECT_EQ(st_sfcmapping[105].status, 0);
-    EXPECT_EQ(st_sfcmapping[106].status, 0);
+    EXPECT_EQ(std::tuple(st_sfcmapping[105].status, st_sfcmapping[106].status), std::tuple(0, 0));
     EXPECT_EQ(st_sfcmapping[106].mapping.fifth, 0x5555);  // the tail of entry 106 survives
-    for (uint32_t s = 107; s < 128; ++s) {
-        EXPECT_EQ(st_sfcmapping[s].status, 1) << s;
-        EXPECT_EQ(st_sfcmapping[s].gemport, 4096) << s;
-    }
-}
-
-TEST_F(SfcTest, DeleteAllStopsAtTheFirstGemPortFailure) {
-    install_vlans(3);
-    zesim::fail(0xb04, 0x1234, 2);
-    EXPECT_EQ(ze_lsw_flow_sfc_delete_all(), 0xffffffffu);
-    EXPECT_EQ(entries_of(0x507).size(), 3u + 1u);  // three installs, sfid 0 removed
-    EXPECT_EQ(st_sfcmapping[1].status, 1);
+    for (uint32_t s = 107; s < 128; ++s) EXPECT_EQ(gem_shadow(s), std::tuple(1, 8, 4096)) << s;
 }
 
 TEST_F(SfcTest, GemPortSearchesFollowDirectionAndStart) {
     // GEM port 77 downstream, 77 upstream, 88 upstream, 77 upstream but free
     const uint8_t igr[] = {0x20, 0x02, 0x02, 0x02};
     const uint16_t gem[] = {77, 77, 88, 77};
-    for (uint32_t s = 0; s < 4; ++s) {
-        st_sfcmapping[s] = {s < 3 ? uint8_t{1} : uint8_t{0}, 0, gem[s], {}};
-        st_sfcmapping[s].mapping.igr = igr[s];
-    }
+    for (uint32_t s = 0; s < 4; ++s) st_sfcmapping[s] = {s < 3 ? uint8_t{1} : uint8_t{0}, 0, gem[s], {.igr = igr[s]}};
     const uint32_t cases[][5] = {  // GEM port, direction, first, result, sfid
-        {77, 0, 0, 0, 1}, {77, 1, 0, 0, 0}, {77, 1, 1, 18, 0xffff}, {77, 2, 0, 18, 0xffff},
-        {77, 0, 128, 18, 0xffff},
+        {77, 0, 0, 0, 1}, {77, 1, 0, 0, 0}, {77, 1, 1, 18, 0xffff}, {77, 2, 0, 18, 0xffff}, {77, 0, 128, 18, 0xffff},
     };
     for (const auto &c : cases) {
         uint16_t sfid = 0xffff;
@@ -122,33 +105,24 @@ TEST_F(SfcTest, GemPortSearchesFollowDirectionAndStart) {
     EXPECT_EQ(count, 1);
 }
 
-TEST_F(SfcTest, SearchByRecordComparesEveryByte) {
+// The VLAN search traces nothing; the record search compares every byte.
+TEST_F(SfcTest, SearchesByVlanAndByRecord) {
     install_vlans(2);
-    ze_sfc_mapping_s m = vlan_mapping(101);
-    uint16_t sfid = 0;
+    ze_lsw_flow_save_gemmap(1, 3, 1234);
+    uint16_t gem = 0, tcont = 0, sfid = 0;
+    ze_sfc_mapping_s m;
+    ze_host_trace_clear();
+    EXPECT_EQ(ze_lsw_flow_get_gemmap_by_vlan(101, &gem, &tcont, &m), 0u);
+    EXPECT_EQ(std::tuple(gem, tcont, m.vlan), std::tuple(1234, 3, 101));
+    EXPECT_EQ(ze_lsw_flow_get_gemmap_by_vlan(555, &gem, &tcont, &m), 0xffffffffu);
+    EXPECT_EQ(ze_lsw_flow_get_gemmap_by_vlan(101, nullptr, &tcont, &m), 0xffffffffu);
+    EXPECT_TRUE(traces().empty());
+    m = vlan_mapping(101);
     EXPECT_EQ(ze_lsw_flow_get_sfid_bymapping(&m, &sfid), 0u);
     EXPECT_EQ(sfid, 1);
     m.pad[1] = 1;
     EXPECT_EQ(ze_lsw_flow_get_sfid_bymapping(&m, &sfid), 14u);
-    ze_host_trace_rec t;
-    ASSERT_TRUE(last_trace_of("ze_lsw_flow_get_sfid_bymapping", t));
-    EXPECT_EQ(t.result, 18u);
-}
-
-TEST_F(SfcTest, GemmapByVlanTracesNothing) {
-    install_vlans(2);
-    st_sfcmapping[1].gemport = 1234;
-    st_sfcmapping[1].tcont = 3;
-    uint16_t gem = 0, tcont = 0;
-    ze_sfc_mapping_s m;
-    ze_host_trace_clear();
-    EXPECT_EQ(ze_lsw_flow_get_gemmap_by_vlan(101, &gem, &tcont, &m), 0u);
-    EXPECT_EQ(gem, 1234);
-    EXPECT_EQ(tcont, 3);
-    EXPECT_EQ(m.vlan, 101);
-    EXPECT_EQ(ze_lsw_flow_get_gemmap_by_vlan(555, &gem, &tcont, &m), 0xffffffffu);
-    EXPECT_EQ(ze_lsw_flow_get_gemmap_by_vlan(101, nullptr, &tcont, &m), 0xffffffffu);
-    EXPECT_TRUE(traces().empty());
+    EXPECT_EQ(last_trace_of("ze_lsw_flow_get_sfid_bymapping").result, 18u);
 }
 
 TEST_F(SfcTest, ShadowAccessorsRejectOutOfRangeSfids) {
