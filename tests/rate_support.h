@@ -27,6 +27,14 @@ inline Words words(const zesim::Bytes &b, std::initializer_list<uint32_t> offset
     return v;
 }
 
+// The words at `offsets` of every block sent with `cmd`, one after another.
+inline Words sent_words(uint32_t cmd, std::initializer_list<uint32_t> offsets) {
+    Words v;
+    for (const auto &e : entries_of(cmd))
+        for (uint32_t off : offsets) v.push_back(word_at(e.sent, off));
+    return v;
+}
+
 inline void put(zesim::Bytes &b, const Fields &fields) {
     for (auto [off, v] : fields) std::memcpy(&b[off], &v, 4);
 }
