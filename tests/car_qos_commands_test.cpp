@@ -1,8 +1,5 @@
 // The CAR and QoS commands: how their requests reach the API, that the API's
 // code passes through unfolded, and where outputs land in the buffer.
-#include <string>
-#include <vector>
-
 #include "rate_support.h"
 
 namespace {
@@ -44,8 +41,7 @@ TEST_F(CarQosCommands, RequestFieldsReachTheApiAndOutputsLandInTheBuffer) {
     for (const auto &s : steps) {
         Words buf = s.request;
         uint32_t reply = 0;
-        EXPECT_EQ(call(std::string("ze_adapter_cli_") + s.cmd, buf.data(), buf.size() * 4, &reply), s.result)
-            << s.cmd;
+        EXPECT_EQ(call("ze_adapter_cli_" + std::string(s.cmd), buf.data(), buf.size() * 4, &reply), s.result) << s.cmd;
         EXPECT_EQ(buf, s.after.empty() ? s.request : s.after) << s.cmd;
     }
     // The WRED start-up takes no request and needs no reply length.
