@@ -14,11 +14,7 @@ TEST_F(CarQosCommands, RequestFieldsReachTheApiAndOutputsLandInTheBuffer) {
     zesim::set_word(2579, 4 + 20 * 5 + 16, 0x1234, {2});
     zesim::fail(2587, zetest::kBusy);
     zesim::fail(0xa00, 0x42);
-    const struct {
-        const char *cmd;
-        Words request, after;
-        uint32_t result;
-    } steps[] = {
+    const struct { const char *cmd; Words request, after; uint32_t result; } steps[] = {
         // The API's code passes through: 18 for a busy driver, -1 otherwise.
         {"lsw_qos_get_egr_shaping", {3, 0}, {}, ZE_ERR_PARAM},
         {"lsw_car_get_simple_car", {0, 0, 0, 0}, {}, ZE_ERR_FAIL},

@@ -21,8 +21,7 @@ TEST_F(Car, SingleBlockSettersChangeOnlyTheirOwnFields) {
         uint8_t v1 = 9;
         uint32_t v2 = 9, v3 = 9, w = 0xc0de0000 + (slots.empty() ? 0 : slots[0]);
         ASSERT_EQ(ze_lsw_car_get_simple_car(kind, &v1, &v2, &v3), 0u);
-        EXPECT_EQ((Words{v1, v2, v3}), (slots.empty() ? Words{9, 9, 9} : Words{w & 0xff, w + 4, w + 8}))
-            << kind;
+        EXPECT_EQ((Words{v1, v2, v3}), (slots.empty() ? Words{9, 9, 9} : Words{w & 0xff, w + 4, w + 8})) << kind;
     }
     const uint32_t eth[4] = {10, 11, 12, 13};
     const Rmw cases[] = {
