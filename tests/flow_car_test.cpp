@@ -1,7 +1,6 @@
 // Flow CAR by sfid and by GEM port, and GEM-port ingress priority: both
 // work from the SFC shadow.
-#include <string>
-#include <vector>
+#include <algorithm>
 
 #include "rate_support.h"
 #include "ze_lsw_car.h"
@@ -9,41 +8,30 @@
 
 namespace {
 
-using zetest::entries_of;
-using zetest::kBusy;
-using zetest::kDown;
-using zetest::kUp;
-using zetest::word_at;
-using zetest::Words;
-using zetest::words;
+using namespace zetest;
 
-class FlowCar : public zetest::RateTest {
+class FlowCar : public RateTest {
 protected:
-    bool traced_as(const char *func, uint32_t result) const {
-        for (const auto &t : traces())
-            if (std::string(t.func) == func && t.result == result) return true;
-        return false;
+    bool traced_as(const std::string &func, uint32_t result) const {
+        return std::ranges::any_of(traces(), [&](const auto &t) { return func == t.func && t.result == result; });
     }
 };
 
-TEST_F(FlowCar, SfidCarIsSetOnceAndEnablesTheClassifierEntry) {
-    zesim::store(0x506, zetest::patterned(68, {{0, 9}}));
+TEST_F(FlowCar, SfidCarIsSetOnceAndEnablesTheClassifierEntryAndFailsItsOwnWay) {
+    zesim::store(0x506, patterned(68, {{0, 9}}));
     ASSERT_EQ(ze_lsw_car_set_flow_car(9, 1, 2, 3, -4, 5, 6), 0u);
     EXPECT_EQ(zesim::commands(), (Words{0xa0b, 0xa0b, 0xa0a, 0xa33, 0xa32, 0x506, 0x507}));
     EXPECT_TRUE(traced_as("ze_lsw_car_get_fcar_index", 0));
-    EXPECT_EQ(words(zesim::block(0xa0b, {9}), {0, 4, 8, 12, 16, 20, 24}),
-              (Words{9, 1, 2, 3, 0xfffffffc, 5, 6}));
+    EXPECT_EQ(words(zesim::block(0xa0b, {9}), {0, 4, 8, 12, 16, 20, 24}), (Words{9, 1, 2, 3, 0xfffffffc, 5, 6}));
     EXPECT_EQ(words(zesim::block(0xa33, {9}), {4, 8}), (Words{1, 9}));
     // Entry enable and CAR enable on; the rest, entry valid included, kept.
-    EXPECT_EQ(zesim::block(0x506, {9}), zetest::patterned(68, {{0, 9}, {8, 1}, {64, 1}}));
+    EXPECT_EQ(zesim::block(0x506, {9}), patterned(68, {{0, 9}, {8, 1}, {64, 1}}));
 
     zesim::clear_log();
     EXPECT_EQ(ze_lsw_car_set_flow_car(9, 7, 7, 7, 7, 7, 7), ZE_ERR_FAIL);
     EXPECT_EQ(zesim::commands(), (Words{0xa0b}));
-    EXPECT_EQ(word_at(zesim::block(0xa0b, {9}), 4), 1u);
-}
+    EXPECT_EQ(zesim::word(0xa0b, 4, {9}), 1u);
 
-TEST_F(FlowCar, SfidCarFailures) {
     // The profile check's busy answer is traced as 18 but the call fails -1.
     zesim::fail(0xa0b, kBusy, 1);
     EXPECT_EQ(ze_lsw_car_set_flow_car(3, 1, 1, 1, 1, 1, 1), ZE_ERR_FAIL);
@@ -60,9 +48,8 @@ TEST_F(FlowCar, GemportCarBindsOnlyTheFirstFlowCountTimes) {
     flow(8, 100, kUp, 0);  // not in use
     ASSERT_EQ(ze_lsw_car_set_gemport_car(100, 0, 10, 20, 30, 40, 0x1, 60), 0u);
     EXPECT_EQ(zesim::commands(), (Words{0xa0a, 0xa32, 0x506, 0x507, 0xa32, 0x506, 0x507}));
-    for (const auto &e : entries_of(0xa32)) EXPECT_EQ(words(e.sent, {0, 4, 8}), (Words{2, 1, 0}));
-    EXPECT_EQ(word_at(zesim::block(0x506, {2}), 64), 1u);
-    EXPECT_EQ(word_at(zesim::block(0x506, {5}), 64), 0u);
+    EXPECT_EQ(sent_words(0xa32, {0, 4, 8}), (Words{2, 1, 0, 2, 1, 0}));
+    EXPECT_EQ((Words{zesim::word(0x506, 64, {2}), zesim::word(0x506, 64, {5})}), (Words{1, 0}));
     const ze_fcar_status_s &e = g_st_fcar_status[0];
     EXPECT_EQ((Words{e.in_use, e.gemport, e.direction}), (Words{1, 100, 0}));
     EXPECT_EQ(Words(e.params, e.params + 6), (Words{10, 20, 30, 40, 1, 60}));
@@ -70,9 +57,7 @@ TEST_F(FlowCar, GemportCarBindsOnlyTheFirstFlowCountTimes) {
 }
 
 TEST_F(FlowCar, GemportProfilesAreReusedOnlyForIdenticalRequests) {
-    const struct {
-        uint32_t gemport, dir, p1, index;
-    } steps[] = {
+    const struct { uint32_t gemport, dir, p1, index; } steps[] = {
         {100, 0, 10, 0}, {100, 0, 10, 0},  // identical: same profile
         {100, 0, 11, 1},                   // other parameters
         {100, 1, 10, 2},                   // other direction
@@ -107,10 +92,7 @@ TEST_F(FlowCar, GemportPriorityWalksTheInUseFlowsOfTheGemport) {
     flow(1, 300, kUp), flow(4, 300, kDown), flow(9, 301, kUp);
     flow(6, 300, kUp, 0);  // not in use
     ASSERT_EQ(ze_lsw_qos_set_gemport_pri(300, 77, 5), 0u);
-    auto sets = entries_of(2568);
-    ASSERT_EQ(sets.size(), 2u);
-    EXPECT_EQ(words(sets[0].sent, {0, 12}), (Words{1, 5}));
-    EXPECT_EQ(words(sets[1].sent, {0, 12}), (Words{4, 5}));
+    EXPECT_EQ(sent_words(2568, {0, 12}), (Words{1, 5, 4, 5}));
 
     zesim::clear_log();
     EXPECT_EQ(ze_lsw_qos_set_gemport_pri(302, 0, 5), 0u);

@@ -4,7 +4,6 @@
 
 #include <cstring>
 #include <functional>
-#include <initializer_list>
 #include <map>
 #include <vector>
 
@@ -27,15 +26,23 @@ inline Words words(const zesim::Bytes &b, std::initializer_list<uint32_t> offset
     return v;
 }
 
-inline void put(zesim::Bytes &b, const Fields &fields) {
-    for (auto [off, v] : fields) std::memcpy(&b[off], &v, 4);
+// The words at `offsets` of every block sent with `cmd`, one after another.
+inline Words sent_words(uint32_t cmd, std::initializer_list<uint32_t> offsets) {
+    Words v;
+    for (const auto &e : entries_of(cmd))
+        for (uint32_t off : offsets) v.push_back(word_at(e.sent, off));
+    return v;
+}
+
+inline void put(uint8_t *b, const Fields &fields) {
+    for (auto [off, v] : fields) std::memcpy(b + off, &v, 4);
 }
 
 // A block whose every word names its offset, but for the key words.
 inline zesim::Bytes patterned(uint32_t size, const Fields &keys) {
     zesim::Bytes b(size);
-    for (uint32_t off = 0; off < size; off += 4) put(b, {{off, 0xc0de0000 + off}});
-    put(b, keys);
+    for (uint32_t off = 0; off < size; off += 4) put(b.data(), {{off, 0xc0de0000 + off}});
+    put(b.data(), keys);
     return b;
 }
 
@@ -56,15 +63,12 @@ inline void expect_rmw(const Rmw &c) {
     zesim::clear_log();
     zesim::Bytes key(c.size), expected = patterned(c.size, c.keys);
     zesim::store(c.get, expected);
-    put(key, c.keys);
+    put(key.data(), c.keys);
     if (c.rekeys) {
         uint8_t *answer = zesim::stored_block(c.get, key.data());
-        for (auto [off, v] : c.keys) {
-            uint32_t other = v ^ 0x5a000000;
-            std::memcpy(answer + off, &other, 4);
-        }
+        for (auto [off, v] : c.keys) put(answer, {{off, v ^ 0x5a000000}});
     }
-    put(expected, c.written);
+    put(expected.data(), c.written);
     ASSERT_EQ(c.call(), 0u) << c.set;
     EXPECT_EQ(zesim::commands(), (Words{c.get, c.set}));
     EXPECT_EQ(entries_of(c.get)[0].sent, key) << "read with the key alone, " << c.get;
