@@ -18,8 +18,7 @@ TEST_F(Emac, SelectorChoosesTheBlockAndTheWord) {
         EXPECT_EQ(zesim::commands(), (Ids{c.block, c.block + 1}));
         EXPECT_EQ(zesim::word(c.block, c.offset), 0x101 + c.llid) << "stored unchecked";
         uint8_t fec = 0;
-        ASSERT_EQ(ze_emac_get_fec(c.llid, c.selector, &fec), 0u);
-        EXPECT_EQ(fec, static_cast<uint8_t>(0x01 + c.llid)) << "low byte";
+        EXPECT_EQ((Ids{ze_emac_get_fec(c.llid, c.selector, &fec), fec}), (Ids{0, (0x01 + c.llid) & 0xff})) << c.llid;
     }
     EXPECT_EQ(zesim::word(0xf00, 80), 0u) << "the rest of the LLID block is carried";
 }
@@ -45,20 +44,16 @@ TEST_F(Emac, SetCommandPrintsItsSizeFirstAndGetCommandPassesFailuresUnfolded) {
     EXPECT_EQ(console(), "sizeof(ze_emac_fec_s) = 8");
     EXPECT_EQ(zesim::word(0xf00, 12), 1u);
     req.fec = 0;
-    ASSERT_EQ(call("ze_adapter_cli_emac_get_fec", &req, 8, &reply), 0u);
-    EXPECT_EQ(req.fec, 1);
+    EXPECT_EQ((Ids{call("ze_adapter_cli_emac_get_fec", &req, 8, &reply), req.fec}), (Ids{0, 1}));
     req.llid = 8;
     EXPECT_EQ(call("ze_adapter_cli_emac_get_fec", &req, 8, &reply), ZE_ERR_PARAM);
 }
 
 TEST_F(Emac, UnregisteredLlidCommandsAnswerWithoutTouchingAnything) {
     uint32_t req = 0x12345678, reply = 0;
-    EXPECT_EQ(ze_adapter_cli_emac_set_llid(&req, 4, &reply), 0u);
-    EXPECT_EQ(reply, 0u);
-    EXPECT_EQ(ze_adapter_cli_emac_get_llid(&req, 4, &reply), 0u);
-    EXPECT_EQ(reply, 4u);
-    EXPECT_EQ(req, 0x12345678u);
-    EXPECT_EQ(ze_adapter_cli_emac_get_llid(&req, 8, &reply), ZE_ERR_PARAM);
+    EXPECT_EQ((Ids{ze_adapter_cli_emac_set_llid(&req, 4, &reply), reply, ze_adapter_cli_emac_get_llid(&req, 4, &reply),
+                   reply, req, ze_adapter_cli_emac_get_llid(&req, 8, &reply)}),
+              (Ids{0, 0, 0, 4, 0x12345678, ZE_ERR_PARAM}));
     EXPECT_TRUE(zesim::log().empty());
 }
 
