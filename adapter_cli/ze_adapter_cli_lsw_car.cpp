@@ -1,7 +1,6 @@
 // CAR commands: start-up, protocol packet CAR and action, simple CAR, EFC
 // CAR, flow and GEM-port CAR, to-CPU reason CAR.
 #include "ze_adapter_cli.h"
-#include "ze_adapter_cli_lsw_rate.h"
 #include "ze_cli_handler.h"
 #include "ze_lsw_car.h"
 

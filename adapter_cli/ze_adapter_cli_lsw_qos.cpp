@@ -1,7 +1,6 @@
 // QoS commands: queue map, queue buffers, egress scheduling, WRED, egress
 // and queue shaping, queue count and ingress priority.
 #include "ze_adapter_cli.h"
-#include "ze_adapter_cli_lsw_rate.h"
 #include "ze_cli_handler.h"
 #include "ze_lsw_qos.h"
 

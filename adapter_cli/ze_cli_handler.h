@@ -60,7 +60,14 @@ struct U32PairReq {
     uint32_t first;
     uint32_t second;
 };
-static_assert(sizeof(U32Req) == 4 && sizeof(U32PairReq) == 8);
+struct U32TripleReq {
+    uint32_t a, b, c;
+};
+struct U32QuadReq {
+    uint32_t a, b, c, d;
+};
+static_assert(sizeof(U32Req) == 4 && sizeof(U32PairReq) == 8 && sizeof(U32TripleReq) == 12 &&
+              sizeof(U32QuadReq) == 16);
 
 }  // namespace ze::cli
 
