@@ -22,11 +22,9 @@ struct MappingReq {
     uint16_t dir;
     uint16_t sfid;  // reply
 };
-struct IndexReq {
-    uint16_t value;
-};
+using ze::cli::U16Req;
 static_assert(sizeof(ServiceReq) == 108 && sizeof(MappingReq) == 24);
-static_assert(sizeof(ze_sfc_mapping_s) == 20 && sizeof(IndexReq) == 2);
+static_assert(sizeof(ze_sfc_mapping_s) == 20);
 
 // A removal by record carries no direction: the record is searched exactly
 // as sent, i.e. as the add command replied it.
@@ -55,7 +53,7 @@ uint32_t ze_adapter_cli_flow_get_service(void *req, uint32_t req_len, uint32_t *
 }
 
 uint32_t ze_adapter_cli_flow_del_fid(void *req, uint32_t req_len, uint32_t *reply_len) {
-    return ZE_CLI_HANDLE(IndexReq, kNoReply, [](IndexReq &r) { return ze_lsw_flow_del_fid(r.value); });
+    return ZE_CLI_HANDLE(U16Req, kNoReply, [](U16Req &r) { return ze_lsw_flow_del_fid(r.value); });
 }
 
 // Unchecked: the request is not looked at.
@@ -85,8 +83,8 @@ uint32_t ze_adapter_cli_flow_del_mapping(void *req, uint32_t req_len, uint32_t *
 }
 
 uint32_t ze_adapter_cli_flow_del_mapping_by_sfid(void *req, uint32_t req_len, uint32_t *reply_len) {
-    return ZE_CLI_HANDLE(IndexReq, kNoReply,
-                         [](IndexReq &r) { return ze_lsw_flow_del_mapping_by_sfid(r.value); });
+    return ZE_CLI_HANDLE(U16Req, kNoReply,
+                         [](U16Req &r) { return ze_lsw_flow_del_mapping_by_sfid(r.value); });
 }
 
 // No value selection is kept: the set accepts anything, the get only checks.

@@ -12,26 +12,16 @@ using ze::cli::kNoReply;
 using ze::cli::U32PairReq;
 using ze::cli::U32Req;
 
-struct PortU8Req {
-    uint32_t port;
-    uint8_t value;
-    uint8_t reserved[3];
-};
-struct PortU16Req {
-    uint32_t port;
-    uint16_t value;
-    uint16_t reserved;
-};
-struct U8Req {
-    uint8_t value;
-};
+using ze::cli::PortU16Req;
+using ze::cli::PortU8Req;
+using ze::cli::U8Req;
+
 struct MacDelReq {
     uint16_t vlan;
     uint8_t mac[6];
     uint8_t reserved[4];
 };
-static_assert(sizeof(PortU8Req) == 8 && sizeof(PortU16Req) == 8 && sizeof(U8Req) == 1 &&
-              sizeof(MacDelReq) == 12 && sizeof(ze_lsw_l2_entry_s) == 16);
+static_assert(sizeof(MacDelReq) == 12 && sizeof(ze_lsw_l2_entry_s) == 16);
 
 }  // namespace
 

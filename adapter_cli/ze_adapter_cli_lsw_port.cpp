@@ -12,15 +12,8 @@ using ze::cli::kNoReply;
 using ze::cli::U32Req;
 using Req = ze::cli::U32PairReq;  // port, value
 
-// A port and a value narrower than a word, replied in place.
-template <class T>
-struct PortNarrowReq {
-    uint32_t port;
-    T value;
-};
-using PortU8Req = PortNarrowReq<uint8_t>;
-using PortU16Req = PortNarrowReq<uint16_t>;
-static_assert(sizeof(PortU8Req) == 8 && sizeof(PortU16Req) == 8);
+using ze::cli::PortU16Req;
+using ze::cli::PortU8Req;
 
 struct TagActReq {
     uint32_t port;

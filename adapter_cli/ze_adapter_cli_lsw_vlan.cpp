@@ -34,11 +34,9 @@ struct FilterGetReq {
     uint8_t value;
     uint8_t reserved[3];
 };
-struct VlanReq {
-    uint16_t vlan;
-};
+using ze::cli::U16Req;
 static_assert(sizeof(PortVlanReq) == 8 && sizeof(VlanBitmapReq) == 8 && sizeof(TagReq) == 8 &&
-              sizeof(FilterGetReq) == 8 && sizeof(VlanReq) == 2);
+              sizeof(FilterGetReq) == 8);
 
 }  // namespace
 
@@ -97,7 +95,7 @@ uint32_t ze_adapter_cli_lsw_vlan_get_vlanbcegr(void *req, uint32_t req_len, uint
 }
 
 uint32_t ze_adapter_cli_lsw_vlan_display_vlanbcegrs(void *req, uint32_t req_len, uint32_t *reply_len) {
-    return ZE_CLI_HANDLE(VlanReq, kNoReply, [](VlanReq &r) { return ze_lsw_vlan_display_bcegrs(r.vlan); });
+    return ZE_CLI_HANDLE(U16Req, kNoReply, [](U16Req &r) { return ze_lsw_vlan_display_bcegrs(r.value); });
 }
 
 uint32_t ze_adapter_cli_lsw_vlan_diagnose(void *req, uint32_t req_len, uint32_t *reply_len) {

@@ -9,10 +9,7 @@ constexpr ze::cli::Family kFamily{"../adapter_cli/ze_adatper_cli_chip.cpp", fals
 
 using ze::cli::U32Req;
 
-struct VendorReq {
-    uint16_t vendor;
-};
-static_assert(sizeof(VendorReq) == 2);
+using ze::cli::U16Req;
 
 }  // namespace
 
@@ -23,7 +20,7 @@ uint32_t ze_adapter_cli_chip_get_version(void *req, uint32_t req_len, uint32_t *
 }
 
 uint32_t ze_adapter_cli_chip_get_vendor(void *req, uint32_t req_len, uint32_t *reply_len) {
-    return ZE_CLI_HANDLE(VendorReq, 2, [](VendorReq &r) { return ze_chip_get_vendor(&r.vendor); });
+    return ZE_CLI_HANDLE(U16Req, 2, [](U16Req &r) { return ze_chip_get_vendor(&r.value); });
 }
 
 uint32_t ze_adapter_cli_chip_set_upmode(void *req, uint32_t req_len, uint32_t *reply_len) {

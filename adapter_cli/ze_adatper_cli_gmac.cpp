@@ -35,16 +35,14 @@ struct FecReq {
     uint8_t fec;
     uint8_t pad[3];
 };
-struct IndexReq {
-    uint16_t value;
-};
+using ze::cli::U16Req;
 struct DownTypeReq {
     uint16_t gemport;
     uint16_t pad;
     uint32_t type;
 };
 static_assert(sizeof(SetAesReq) == 4 && sizeof(GetAesReq) == 4 && sizeof(SetGemportReq) == 8 && sizeof(GetGemportReq) == 8);
-static_assert(sizeof(FecReq) == 8 && sizeof(IndexReq) == 2 && sizeof(DownTypeReq) == 8);
+static_assert(sizeof(FecReq) == 8 && sizeof(DownTypeReq) == 8);
 
 }  // namespace
 
@@ -79,7 +77,7 @@ uint32_t ze_adapter_cli_gmac_get_fec(void *req, uint32_t req_len, uint32_t *repl
 }
 
 uint32_t ze_adapter_cli_gmac_del_gemport(void *req, uint32_t req_len, uint32_t *reply_len) {
-    return ZE_CLI_HANDLE(IndexReq, kNoReply, [](IndexReq &r) { return ze_gmac_del_gemport(r.value); });
+    return ZE_CLI_HANDLE(U16Req, kNoReply, [](U16Req &r) { return ze_gmac_del_gemport(r.value); });
 }
 
 uint32_t ze_adapter_cli_gmac_set_down_gemport_type(void *req, uint32_t req_len, uint32_t *reply_len) {
@@ -95,8 +93,8 @@ uint32_t ze_adapter_cli_gmac_get_down_gemport_type(void *req, uint32_t req_len, 
 }
 
 uint32_t ze_adapter_cli_gmac_del_down_gemport(void *req, uint32_t req_len, uint32_t *reply_len) {
-    return ZE_CLI_HANDLE(IndexReq, kNoReply,
-                         [](IndexReq &r) { return ze_gmac_del_down_gemport(r.value); });
+    return ZE_CLI_HANDLE(U16Req, kNoReply,
+                         [](U16Req &r) { return ze_gmac_del_down_gemport(r.value); });
 }
 
 }  // extern "C"

@@ -21,10 +21,7 @@ struct EthStatReq {
 };
 static_assert(sizeof(EthStatReq) == 408);
 
-struct LlidReq {
-    uint8_t llid;
-};
-static_assert(sizeof(LlidReq) == 1);
+using ze::cli::U8Req;
 
 // The argument those three commands pass: the low word of the address of a
 // word that holds the buffer address.
@@ -56,14 +53,14 @@ uint32_t ze_adapter_cli_lsw_pm_get_eth_statistic(void *req, uint32_t req_len, ui
 
 uint32_t ze_adapter_cli_lsw_pm_get_epon_tx_statistic(void *req, uint32_t req_len,
                                                      uint32_t *reply_len) {
-    return ZE_CLI_HANDLE(LlidReq, ze::cli::kNoReply,
-                         [](LlidReq &r) { return ze_lsw_pm_get_epon_tx_statistic(r.llid); });
+    return ZE_CLI_HANDLE(U8Req, ze::cli::kNoReply,
+                         [](U8Req &r) { return ze_lsw_pm_get_epon_tx_statistic(r.value); });
 }
 
 uint32_t ze_adapter_cli_lsw_pm_get_epon_rx_statistic(void *req, uint32_t req_len,
                                                      uint32_t *reply_len) {
-    return ZE_CLI_HANDLE(LlidReq, ze::cli::kNoReply,
-                         [](LlidReq &r) { return ze_lsw_pm_get_epon_rx_statistic(r.llid); });
+    return ZE_CLI_HANDLE(U8Req, ze::cli::kNoReply,
+                         [](U8Req &r) { return ze_lsw_pm_get_epon_rx_statistic(r.value); });
 }
 
 uint32_t ze_adapter_cli_lsw_pm_get_epon_bandwidth_statistic(void *req, uint32_t req_len,

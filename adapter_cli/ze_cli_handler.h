@@ -53,6 +53,12 @@ uint32_t handle_empty(const Family &f, const char *func, uint32_t line, void *re
 }
 
 // Request structures shared by many commands.
+struct U8Req {
+    uint8_t value;
+};
+struct U16Req {
+    uint16_t value;
+};
 struct U32Req {
     uint32_t value;
 };
@@ -66,8 +72,17 @@ struct U32TripleReq {
 struct U32QuadReq {
     uint32_t a, b, c, d;
 };
-static_assert(sizeof(U32Req) == 4 && sizeof(U32PairReq) == 8 && sizeof(U32TripleReq) == 12 &&
-              sizeof(U32QuadReq) == 16);
+// A port and a value narrower than a word, replied in place.
+template <class T>
+struct PortNarrowReq {
+    uint32_t port;
+    T value;
+};
+using PortU8Req = PortNarrowReq<uint8_t>;
+using PortU16Req = PortNarrowReq<uint16_t>;
+static_assert(sizeof(U8Req) == 1 && sizeof(U16Req) == 2 && sizeof(U32Req) == 4 &&
+              sizeof(U32PairReq) == 8 && sizeof(U32TripleReq) == 12 && sizeof(U32QuadReq) == 16 &&
+              sizeof(PortU8Req) == 8 && sizeof(PortU16Req) == 8);
 
 }  // namespace ze::cli
 
