@@ -1,15 +1,27 @@
 #!/bin/sh
-# The adapter library's dynamic surface: defined symbols are only ze_* names,
-# undefined ones only the C library's and the platform's, and no C++ runtime.
+# The adapter library's dynamic surface: defined symbols are exactly those of
+# the export list, undefined ones only the C library's and the platform's,
+# and no C++ runtime.
 set -eu
 lib=$1
 platform_include=$2
+export_list=$3
 fail=0
 
 defined=$(nm -D --defined-only "$lib" | awk '{print $3}')
 bad=$(printf '%s\n' "$defined" | grep -v -E '^(ze_|_init$|_fini$)' || true)
 if [ -n "$bad" ]; then echo "exported symbols outside ze_*:"; echo "$bad"; fail=1; fi
 if printf '%s\n' "$defined" | grep -q '^_Z'; then echo "C++-mangled exports"; fail=1; fi
+listed=$(sed -n 's/^ *\(ze_[a-z0-9_]*\);$/\1/p' "$export_list" | sort)
+exported=$(printf '%s\n' "$defined" | grep '^ze_' | sort)
+if [ "$exported" != "$listed" ]; then
+  echo "exports differ from the export list (<: exported only, >: listed only):"
+  tmp=$(mktemp)
+  printf '%s\n' "$exported" > "$tmp"
+  printf '%s\n' "$listed" | diff "$tmp" - || true
+  rm -f "$tmp"
+  fail=1
+fi
 
 platform=$(grep -h -o -E '\bze_[a-z0-9_]+\(' "$platform_include"/ze_ubasic.h "$platform_include"/ze_dp.h | tr -d '(' | sort -u)
 undefined=$(nm -D --undefined-only "$lib" | awk '{print $2}' | sed 's/@.*//')
