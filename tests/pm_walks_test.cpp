@@ -156,8 +156,10 @@ TEST_F(Pm, RouteIndexesLlidsAndDropReasonPortsOneOrAll) {
     const char *labels[] = {"eth0", "eth1", "eth2", "eth3", "eth4", "pon", "cpu", "prbs"};
     want = each(8, ze_lsw_pm_get_drop_reason_statistic, [&](uint32_t p, const std::string &s) {
         EXPECT_EQ(s.rfind(format("%-20s\n", labels[p]), 0), 0u) << p;
-        return "\n" + std::string(35, '=') + format("%-4s", labels[p]) + std::string(51, '=') +
-               "\n" + s.substr(21) + long_sep + long_sep;
+        std::string section = format("\n%s%-4s%s\n", std::string(35, '=').c_str(), labels[p],
+                                     std::string(51, '=').c_str());
+        section.append(s, 21);  // the section without its name line
+        return section + long_sep + long_sep;
     });
     zesim::clear_log();
     ASSERT_EQ(ze_lsw_pm_get_drop_reason_statistic(8), 0u);

@@ -70,13 +70,13 @@ bool Request::set_field(const Field &f, const std::string &value, std::string &e
         return true;
     }
     uint64_t v = 0;
-    if (f.type == FieldType::Ipv4) {
-        uint32_t ip;
-        if (!parse_ipv4(value, ip) && !parse_number(value, v)) {
+    if (f.type == FieldType::Ipv4 && value.find('.') != std::string::npos) {
+        uint32_t ip = 0;
+        if (!parse_ipv4(value, ip)) {
             error = "bad address '" + value + "' for " + f.name;
             return false;
         }
-        if (value.find('.') != std::string::npos) v = ip;
+        v = ip;
     } else if (!parse_number(value, v)) {
         error = "bad number '" + value + "' for " + f.name;
         return false;
