@@ -224,9 +224,15 @@ std::string signature_of(const Row &row) {
 
 std::string usage_of(const Row &row) {
     std::string s = row.name;
-    for (const Slot &slot : slots_of(row))
-        if (slot.field.dir != Dir::Out)
-            s += " " + (slot.field.optional ? "[" + slot.field.name + "=0]" : slot.field.name);
+    for (const Param &p : row.params) {
+        if (!is_input(p.role)) continue;
+        if (p.fields)
+            s += " [" + std::string(p.name) + (p.count > 1 ? "[i]" : "") + ".FIELD=VALUE ...]";
+        else if (p.count > 1)
+            s += " " + element_name(p, 0) + " ... " + element_name(p, p.count - 1);
+        else
+            s += std::string(" ") + p.name;
+    }
     return s;
 }
 
@@ -240,13 +246,15 @@ std::string describe(const Row &row) {
     };
     std::string s = signature_of(row) + "\n  " + row.summary + "\n";
     for (const Param &p : row.params) {
+        std::string note = p.count > 1 ? " (" + element_name(p, 0) + " to " + element_name(p, p.count - 1) + ")" : "";
+        if (p.fields) note += " (fields below; left out: 0)";
         char line[256];
-        std::snprintf(line, sizeof line, "  %-12s %-28s %s%s\n", p.name, role_text(p.role), p.what,
-                      p.fields ? " (fields below; left out: 0)" : "");
+        std::snprintf(line, sizeof line, "  %-12s %-28s %s%s\n", p.name, role_text(p.role), p.what, note.c_str());
         s += line;
     }
     for (const Slot &slot : slots_of(row)) {
-        if (!row.params[slot.param].fields) continue;
+        const Param &p = row.params[slot.param];
+        if (!p.fields || slot.field.offset >= p.size) continue;  // an array's first element stands for all
         char line[160];
         std::snprintf(line, sizeof line, "    %-24s %-6s at %u\n", slot.field.name.c_str(),
                       type_name(slot.field.type), slot.field.offset);
