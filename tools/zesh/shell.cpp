@@ -154,8 +154,8 @@ bool Shell::refuse(const std::string &input, const std::string &message) {
 
 bool Shell::run_builtin(const std::vector<std::string> &w) {
     Outcome o = exec_.run_builtin(w);
-    std::vector<std::string> name(w.begin(), w.begin() + std::min<size_t>(w.size(), 2));
-    return local({joined(name)}, o.code == 0, o.printed);
+    const bool sub = w[0] == "sim" && w.size() > 1;  // "sim log", "sim fail": the sub-command names it
+    return local({sub ? w[0] + " " + w[1] : w[0]}, o.code == 0, o.printed);
 }
 
 void Shell::result(const char *kind, const std::string &name, const Outcome &o, const std::string &fields,
