@@ -165,6 +165,23 @@ TEST_F(EfcTest, ActionGroupsKeepTheirHighestBit) {
     }
 }
 
+// Only the forward codes 0..12 reach the act word; any other code keeps
+// what the block held, while every other action word is written.
+TEST_F(EfcTest, UnknownForwardActionKeepsTheActWord) {
+    const uint32_t cases[][2] = {{13, 0x5a5a5a5a}, {0xffffffff, 0x5a5a5a5a}, {12, 12}, {0, 0}};  // code, act
+    for (const auto &c : cases) {
+        zesim::Bytes block(216, 0x5a);
+        ze_efc_action_s a = action();
+        uint32_t act = 0x5a5a5a5a;
+        EXPECT_EQ(ze_lsw_efc_get_fwd_act(c[0], &act), 0u);
+        EXPECT_EQ(act, c[1]) << "get_fwd_act " << c[0];
+        ASSERT_EQ(ze_lsw_efc_get_fact(&a, c[0], block.data() + 84), 0u);
+        EXPECT_EQ(word_at(block, 120), c[1]) << "get_fact " << c[0];
+        EXPECT_EQ(word_at(block, 152), 7u);
+    }
+    EXPECT_EQ(ze_lsw_efc_get_fwd_act(1, nullptr), ZE_ERR_NULL_PTR);
+}
+
 TEST_F(EfcTest, InstallFailuresFreeTheItemList) {
     ze_efc_rule_s r = rule(1u << 7);
     ze_efc_action_s a = action();
