@@ -32,6 +32,18 @@ TEST_F(Channel, FailingCommandIsStillClosedAndItsCodeReturned) {
     EXPECT_EQ(zesim::raw_commands(), (std::vector<uint32_t>{0, 0x100, 1}));
 }
 
+// The driver's close ends the bracket whatever it answers, so a failing
+// close neither reaches the caller nor refuses the commands after it.
+TEST_F(Channel, FailedCloseStillEndsTheBracket) {
+    zesim::fail(1, 0x55);
+    EXPECT_EQ(ze_chip_set_access_mode(4), 0u);
+    uint32_t mode = 0;
+    EXPECT_EQ(ze_chip_get_access_mode(&mode), 0u);
+    EXPECT_EQ(mode, 4u);
+    EXPECT_EQ(zesim::raw_commands(), (std::vector<uint32_t>{0, 0x100, 1, 0, 0x101, 1, 0, 0x100, 1}));
+    for (const zesim::LogEntry &e : zesim::log()) EXPECT_EQ(e.result, e.cmd == 1 ? 0x55u : 0u) << e.cmd;
+}
+
 TEST_F(Channel, LengthIsRecordedButNeverSent) {
     uint8_t a[76] = {}, b[76] = {};
     uint32_t len_a = 0, len_b = 0;
