@@ -60,11 +60,13 @@ TEST_F(Channel, LengthIsRecordedButNeverSent) {
 // Every API function folds driver answers the same way, on the read and on
 // the write: 0xf0000101 becomes 18, anything else 0xffffffff.
 struct MappingCase {
+    const char *name;
     uint32_t failing_cmd;
     uint32_t driver_code;
     uint32_t expected;
     size_t commands_sent;
 };
+void PrintTo(const MappingCase &c, std::ostream *os) { *os << c.name; }
 
 class DriverAnswerMapping : public SimTest, public ::testing::WithParamInterface<MappingCase> {};
 
@@ -81,12 +83,13 @@ TEST_P(DriverAnswerMapping, FoldsIntoTheLibrarysCodes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(GetAndSet, DriverAnswerMapping,
-                         ::testing::Values(MappingCase{0x100, 0xf0000101, ZE_ERR_PARAM, 1},
-                                           MappingCase{0x100, 0xf0000102, ZE_ERR_FAIL, 1},
-                                           MappingCase{0x100, 1, ZE_ERR_FAIL, 1},
-                                           MappingCase{0x101, 0xf0000101, ZE_ERR_PARAM, 2},
-                                           MappingCase{0x101, 0x80000000, ZE_ERR_FAIL, 2},
-                                           MappingCase{0, 0xf0000101, ZE_ERR_PARAM, 0}));
+                         ::testing::Values(MappingCase{"ReadInvalidParam", 0x100, 0xf0000101, ZE_ERR_PARAM, 1},
+                                           MappingCase{"ReadNoBlock", 0x100, 0xf0000102, ZE_ERR_FAIL, 1},
+                                           MappingCase{"ReadOtherCode", 0x100, 1, ZE_ERR_FAIL, 1},
+                                           MappingCase{"WriteInvalidParam", 0x101, 0xf0000101, ZE_ERR_PARAM, 2},
+                                           MappingCase{"WriteOtherCode", 0x101, 0x80000000, ZE_ERR_FAIL, 2},
+                                           MappingCase{"OpenInvalidParam", 0, 0xf0000101, ZE_ERR_PARAM, 0}),
+                         [](const auto &info) { return std::string(info.param.name); });
 
 TEST_F(Channel, OnlyTheDataNodeIsSimulated) {
     EXPECT_EQ(ze_os_hlp_sdk_interface(0x100, 0), ZE_HOST_ERR_NODE_OPEN);

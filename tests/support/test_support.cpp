@@ -63,6 +63,8 @@ uint32_t word_at(const zesim::Bytes &b, uint32_t offset) {
     return v;
 }
 
+std::string row_name(const ::testing::TestParamInfo<zesh::CommandSpec> &info) { return info.param.name; }
+
 std::vector<zesim::LogEntry> entries_of(uint32_t cmd) {
     std::vector<zesim::LogEntry> out;
     for (const zesim::LogEntry &e : zesim::log())
@@ -71,3 +73,5 @@ std::vector<zesim::LogEntry> entries_of(uint32_t cmd) {
 }
 
 }  // namespace zetest
+
+void zesh::PrintTo(const CommandSpec &row, std::ostream *os) { *os << row.name; }
