@@ -1,5 +1,5 @@
-// Fixture of the flow classifier suites: besides a fresh simulator, empty
-// shadow tables and half-item flag, and helpers that build records.
+// Fixture of the flow classifier suites: besides the shared fixture, a heap
+// balance check, and helpers that build records.
 #pragma once
 
 #include <cstring>
@@ -55,9 +55,6 @@ class FlowTest : public SimTest {
 protected:
     void SetUp() override {
         SimTest::SetUp();
-        std::memset(st_sfcmapping, 0, sizeof st_sfcmapping);
-        std::memset(st_efcservice, 0, sizeof st_efcservice);
-        ui_g0status = 0;
         heap_at_start_ = ze_host_heap_outstanding();
     }
     void TearDown() override {

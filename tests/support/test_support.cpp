@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "shadow_tables.h"
 #include "ze_adapter_cli.h"
 
 namespace zetest {
@@ -15,6 +16,7 @@ void capture(const char *text, size_t len, void *ctx) {
 void SimTest::SetUp() {
     ze_host_use_simulator();
     zesim::reset();
+    clear_shadow_tables();
     ze_host_trace_clear();
     console_.clear();
     ze_host_set_print_sink(capture, &console_);

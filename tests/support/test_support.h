@@ -1,5 +1,5 @@
-// Shared fixture: a fresh simulator, an empty trace ring and the library's
-// console output captured, for every test.
+// Shared fixture: a fresh simulator, empty shadow tables, an empty trace ring
+// and the library's console output captured, for every test.
 #pragma once
 
 #include <gmock/gmock.h>
