@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "recorder.h"
 #include "ze_host.h"
 #include "ze_sim.h"
 
@@ -43,16 +44,24 @@ void ze_host_use_device(const char *dp_node_path) {
 
 int ze_host_backend_is_simulator(void) { return backend().simulator ? 1 : 0; }
 
-uint32_t ze_os_sendioctl(const char *dev_path, uint32_t cmd, uintptr_t arg) {
+static uint32_t send_ioctl(const char *dev_path, uint32_t cmd, uintptr_t arg) {
     const Backend &b = backend();
     const bool dp = dev_path && std::string(dev_path) == kDpNode;
     if (b.simulator) return dp ? zesim::ioctl(cmd, arg) : ZE_HOST_ERR_NODE_OPEN;
     return device_ioctl(dp ? b.dp_node.c_str() : dev_path, cmd, arg);
 }
 
-uint32_t ze_os_hlp_sendioctl(const char *kfunc, void *payload, uint32_t len, uint32_t *out_len) {
+static uint32_t send_kernel_call(const char *kfunc, void *payload, uint32_t len, uint32_t *out_len) {
     if (!backend().simulator) return ZE_HOST_ERR_UNSUPPORTED;
     return zesim::kernel_call(kfunc, payload, len, out_len);
+}
+
+uint32_t ze_os_sendioctl(const char *dev_path, uint32_t cmd, uintptr_t arg) {
+    return zehost::recorded_ioctl(dev_path, cmd, arg, send_ioctl);
+}
+
+uint32_t ze_os_hlp_sendioctl(const char *kfunc, void *payload, uint32_t len, uint32_t *out_len) {
+    return zehost::recorded_kernel_call(kfunc, payload, len, out_len, send_kernel_call);
 }
 
 }  // extern "C"

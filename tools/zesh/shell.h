@@ -64,6 +64,9 @@ struct SimCommand {
     const char *name;
     const char *usage;
     bool (*run)(std::ostream &out, const std::vector<std::string> &args);
+    // It changes what the simulated driver answers outside the driver
+    // commands: a recording holds it and a replay runs it again.
+    bool replayed = false;
 };
 std::span<const SimCommand> sim_commands();
 bool run_sim(std::ostream &out, const std::vector<std::string> &words);

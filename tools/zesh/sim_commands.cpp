@@ -185,17 +185,42 @@ bool sim_counters(std::ostream &out, const std::vector<std::string> &args) {
     return set;
 }
 
+// "save FILE" / "load FILE": the stored blocks and the bracket state as a
+// text file. Faults and the log are not state: a load keeps the current ones.
+bool sim_state_file(std::ostream &out, const std::vector<std::string> &args) {
+    std::string error = "usage: sim " + args[1] + " FILE";
+    if (args.size() == 3 &&
+        (args[1] == "save" ? zesim::save_state(args[2], error) : zesim::load_state(args[2], error)))
+        return true;
+    out << "sim: " << error << "\n";
+    return false;
+}
+
+// A replayed sub-command goes into the recording as the line that ran it.
+void record_sim_line(const std::vector<std::string> &words) {
+    std::string line;
+    for (const std::string &w : words) {
+        const bool quote = w.find_first_of(" \t;#") != std::string::npos;
+        line += (line.empty() ? "" : " ") + (quote ? "\"" + w + "\"" : w);
+    }
+    ze_host_record_text(line.c_str());
+}
+
 const SimCommand kSimCommands[] = {
-    {"reset", "reset                  forget every stored block, the log and the faults", sim_reset},
+    {"reset", "reset                  forget every stored block, the log and the faults", sim_reset, true},
     {"log", "log [N]                the last N driver commands (default 20)", sim_log},
     {"fail", "fail CMD|CALL CODE [NTH]  fail a command id or named call (every time, or the NTH)",
-     sim_fail},
-    {"clear-faults", "clear-faults           remove every injected fault", sim_clear_faults},
+     sim_fail, true},
+    {"clear-faults", "clear-faults           remove every injected fault", sim_clear_faults, true},
     {"block", "block CMD [KEY...]  show a stored block as words", sim_block},
-    {"set", "set CMD OFFSET VALUE [KEY...]  change one word of a stored block", sim_set},
+    {"set", "set CMD OFFSET VALUE [KEY...]  change one word of a stored block", sim_set, true},
     {"blocks", "blocks                 list the simulated blocks and commands", sim_blocks},
     {"counters", "counters fill | counters set CMD OFFSET VALUE [KEY]  fill every counter block "
-     "with its offsets, or set one 64-bit counter", sim_counters},
+     "with its offsets, or set one 64-bit counter", sim_counters, true},
+    {"save", "save FILE              write the stored blocks and the bracket state to FILE "
+     "(not the faults or the log)", sim_state_file},
+    {"load", "load FILE              replace the stored blocks and the bracket state with FILE's; "
+     "a malformed file changes nothing", sim_state_file, true},
 };
 
 }  // namespace
@@ -207,8 +232,12 @@ bool run_sim(std::ostream &out, const std::vector<std::string> &words) {
         for (const SimCommand &s : kSimCommands) out << "sim " << s.usage << "\n";
         return words.size() == 1;
     }
-    for (const SimCommand &s : kSimCommands)
-        if (words[1] == s.name) return need_simulator(out) && s.run(out, words);
+    for (const SimCommand &s : kSimCommands) {
+        if (words[1] != s.name) continue;
+        if (!need_simulator(out) || !s.run(out, words)) return false;
+        if (s.replayed) record_sim_line(words);
+        return true;
+    }
     out << "sim: no sub-command '" << words[1] << "'\n";
     return false;
 }
