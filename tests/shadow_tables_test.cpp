@@ -12,7 +12,9 @@
 namespace {
 
 // Writable globals of the archive (sections .bss and .data, not the
-// read-only-after-relocation .data.rel.ro), with their sizes.
+// read-only-after-relocation .data.rel.ro), with their sizes; names
+// reserved to the implementation (a sanitizer's own, for one) are not the
+// library's.
 std::map<std::string, size_t> writable_globals() {
     std::map<std::string, size_t> out;
     FILE *nm = popen("nm -g --defined-only -f sysv " ZE_ADAPTER_ARCHIVE " 2>/dev/null", "r");
@@ -25,6 +27,7 @@ std::map<std::string, size_t> writable_globals() {
         for (std::string *f : {&name, &value, &cls, &type, &size, &lineno, &section}) std::getline(fields, *f, '|');
         std::istringstream(section) >> section;
         std::istringstream(name) >> name;
+        if (name.starts_with("__")) continue;
         if (section.starts_with(".bss") || (section.starts_with(".data") && !section.starts_with(".data.rel.ro")))
             out[name] = std::stoul(size, nullptr, 16);
     }
