@@ -48,7 +48,7 @@ const ActGroup kActGroups[] = {
 
 // Writes a word of the action half, given as a field of the whole block.
 void put_action(uint8_t *tail, ze::U32<EfcAttr::kSize> f, uint32_t v) {
-    ze_os_memcpy(tail + (f.offset - EfcAttr::kActionOffset), &v, 4);
+    __builtin_memcpy(tail + (f.offset - EfcAttr::kActionOffset), &v, 4);
 }
 
 bool in_use(uint32_t fid, uint8_t *eof = nullptr) {
@@ -269,8 +269,8 @@ uint32_t ze_lsw_flow_get_service_func(const ze_efc_rule_s *rule, const ze_efc_ac
     if (!rule || !action || !fid) return ZE_ERR_NULL_PTR;
     for (uint32_t f = 0; f < ZE_EFC_ENTRY_COUNT; ++f) {
         const ze_efc_shadow_s &e = st_efcservice[f];
-        if (e.status == 1 && ze_os_memcmp(&e.rule, rule, sizeof *rule) == 0 &&
-            ze_os_memcmp(&e.action, action, sizeof *action) == 0 && e.fwd_act == fwd_act) {
+        if (e.status == 1 && __builtin_memcmp(&e.rule, rule, sizeof *rule) == 0 &&
+            __builtin_memcmp(&e.action, action, sizeof *action) == 0 && e.fwd_act == fwd_act) {
             *fid = static_cast<uint16_t>(f);
             return ZE_OK;
         }
