@@ -46,6 +46,8 @@ const ActGroup kActGroups[] = {
     {15, 17, EfcAttr::cvact, EfcAttr::cvvalue, [](const ze_efc_action_s &a) -> uint32_t { return a.cvlan; }},
 };
 
+constexpr uint32_t group_bits(const ActGroup &g) { return (2u << g.last) - (1u << g.first); }
+
 // Writes a word of the action half, given as a field of the whole block.
 void put_action(uint8_t *tail, ze::U32<EfcAttr::kSize> f, uint32_t v) {
     __builtin_memcpy(tail + (f.offset - EfcAttr::kActionOffset), &v, 4);
@@ -185,8 +187,9 @@ uint32_t ze_lsw_efc_get_fwd_act(uint32_t fwd_act, uint32_t *act) {
 uint32_t ze_lsw_efc_get_fact(const ze_efc_action_s *action, uint32_t fwd_act, uint8_t *tail) {
     if (!action || !tail) return ZE_ERR_NULL_PTR;
     for (const ActGroup &g : kActGroups) {
-        for (uint32_t bit = g.first; bit <= g.last; ++bit) {
-            if (!(action->act_mask >> bit & 1u)) continue;
+        // The group's set bits, lowest first.
+        for (uint32_t bits = action->act_mask & group_bits(g); bits; bits &= bits - 1) {
+            const uint32_t bit = static_cast<uint32_t>(__builtin_ctz(bits));
             put_action(tail, g.field, bit - g.first + 1);
             if (bit == g.first && g.value) put_action(tail, g.value_field, g.value(*action));
         }

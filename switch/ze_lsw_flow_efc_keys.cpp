@@ -57,6 +57,7 @@ const KeyBit kKeyBits[] = {
     {KeyKind::Single, 18, offsetof(ze_efc_rule_s, key21), 1},
 };
 
+constexpr uint32_t kKnownKeyBits = (1u << (sizeof kKeyBits / sizeof kKeyBits[0])) - 1;
 constexpr uint8_t kLastItem = ZE_EFC_ITEM_COUNT - 1;
 constexpr uint32_t kWordBits = 32;
 
@@ -160,9 +161,9 @@ uint32_t ze_lsw_efc_get_attr(const ze_efc_rule_s *rule, ze_efc_item_s *items) {
     ui_g0status = 0;
     uint8_t index = 0;
     const auto *bytes = reinterpret_cast<const uint8_t *>(rule);
-    for (uint32_t bit = 0; bit < sizeof kKeyBits / sizeof kKeyBits[0] && index <= kLastItem; ++bit) {
-        if (!(rule->key_mask >> bit & 1u)) continue;
-        const KeyBit &k = kKeyBits[bit];
+    // The mask's known bits, lowest first.
+    for (uint32_t bits = rule->key_mask & kKnownKeyBits; bits && index <= kLastItem; bits &= bits - 1) {
+        const KeyBit &k = kKeyBits[__builtin_ctz(bits)];
         switch (k.kind) {
             case KeyKind::None:
                 break;
