@@ -13,6 +13,19 @@ constexpr uint32_t kIpv4 = 0, kIpv6 = 1;
 
 using ze::IpFilterRule;
 
+uint64_t word64(const ze_lsw_ip_filter_rule_s &r, uint32_t i) {
+    uint64_t v;
+    __builtin_memcpy(&v, reinterpret_cast<const uint8_t *>(&r) + 8 * i, sizeof v);
+    return v;
+}
+
+// The whole 32-byte rule, compared as four 64-bit words.
+bool same_rule(const ze_lsw_ip_filter_rule_s &a, const ze_lsw_ip_filter_rule_s &b) {
+    static_assert(sizeof a == 32);
+    return ((word64(a, 0) ^ word64(b, 0)) | (word64(a, 1) ^ word64(b, 1)) | (word64(a, 2) ^ word64(b, 2)) |
+            (word64(a, 3) ^ word64(b, 3))) == 0;
+}
+
 uint32_t address_bytes(uint32_t ipversion) {
     return ipversion == kIpv4 ? 4 : ipversion == kIpv6 ? 16 : 0;
 }
@@ -32,7 +45,7 @@ uint32_t ze_lsw_sec_get_ip_filter_table_index(const ze_lsw_ip_filter_rule_s *rul
         const ze_ip_filter_status_s &s = st_ip_filter_status[i];
         if (!s.used) {
             if (first_free == ZE_LSW_IP_FILTER_COUNT) first_free = i;
-        } else if (__builtin_memcmp(&s.rule, rule, sizeof *rule) == 0) {
+        } else if (same_rule(s.rule, *rule)) {
             *index = i;
             return ze::traced(ZE_SITE, ZE_ERR_EXISTS);
         }
