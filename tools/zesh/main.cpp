@@ -8,6 +8,7 @@
 #include <iostream>
 
 #include "line_input.h"
+#include "serve/serve.h"
 #include "shell.h"
 #include "ze_adapter_cli.h"
 #include "ze_host.h"
@@ -32,6 +33,7 @@ bool run_stream(zesh::Shell &sh, std::istream &in) {
 }  // namespace
 
 int main(int argc, char **argv) {
+    if (argc > 1 && !std::strcmp(argv[1], "serve")) return zesh::serve_main(argc - 2, argv + 2);
     const char *script = nullptr, *file = nullptr;
     for (int i = 1; i < argc; ++i) {
         if (!std::strcmp(argv[i], "-c") && i + 1 < argc) {
