@@ -2,6 +2,7 @@
 #include <signal.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 
@@ -22,16 +23,23 @@ volatile sig_atomic_t g_stop = 0;
 
 void on_stop(int) { g_stop = 1; }
 
-// The launcher returns at once: the socket already accepts connections.
-// The daemon leaves the terminal's session; standard error stays for the
-// log unless it goes to syslog.
-void detach(bool keep_stderr) {
+// The launcher waits until the daemon listens (or has failed) and exits
+// with 0 (or 1), so a script may connect as soon as it returns. The daemon
+// leaves the terminal's session; standard error stays for the log unless
+// the log goes to syslog. Returns the descriptor to report readiness on.
+int detach(bool keep_stderr) {
+    int ready[2];
+    if (pipe(ready) != 0) return -1;
     pid_t pid = fork();
-    if (pid < 0) {
-        serve::log_line("cannot detach: %s", std::strerror(errno));
-        return;
+    if (pid < 0) return -1;
+    if (pid > 0) {
+        close(ready[1]);
+        char ok = 0;
+        while (read(ready[0], &ok, 1) < 0 && errno == EINTR) {
+        }
+        _exit(ok == 1 ? 0 : 1);
     }
-    if (pid > 0) _exit(0);
+    close(ready[0]);
     setsid();
     int null = open("/dev/null", O_RDWR);
     if (null >= 0) {
@@ -40,7 +48,7 @@ void detach(bool keep_stderr) {
         if (!keep_stderr) dup2(null, STDERR_FILENO);
         if (null > STDERR_FILENO) close(null);
     }
-    (void)!chdir("/");
+    return ready[1];
 }
 
 // SIGTERM and SIGINT are held while a request runs and let through while
@@ -77,6 +85,11 @@ int serve_main(int argc, char **argv) {
         return 2;
     }
     if (options->syslog) serve::log_to_syslog();
+    const int ready = options->foreground ? -1 : detach(!options->syslog);
+    if (!options->foreground && ready < 0) {
+        serve::log_line("cannot detach: %s", std::strerror(errno));
+        return 1;
+    }
     if (!options->device.empty()) ze_host_use_device(options->device.c_str());
     if (uint32_t r = ze_adapter_cli_init()) {
         serve::log_line("command registration failed with 0x%08x", r);
@@ -88,7 +101,11 @@ int serve_main(int argc, char **argv) {
         return 1;
     }
     const sigset_t wait_mask = hold_stop_signals();
-    if (!options->foreground) detach(!options->syslog);
+    if (ready >= 0) {
+        (void)!write(ready, "\1", 1);
+        close(ready);
+        (void)!chdir("/");
+    }
     serve::log_line("serving %s on %s", options->socket.c_str(),
                     options->device.empty() ? "the simulator" : options->device.c_str());
 
