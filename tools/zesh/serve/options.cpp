@@ -37,27 +37,20 @@ bool number(std::string_view s, unsigned long &v, int base = 10) {
 }
 
 // A user or group by number or by name.
-bool user_id(std::string_view s, uid_t &id) {
+template <class Id, class Entry>
+bool id_of(std::string_view s, Id &id, Entry *(*by_name)(const char *), Id Entry::*member) {
     unsigned long v;
     if (number(s, v)) {
-        id = static_cast<uid_t>(v);
+        id = static_cast<Id>(v);
         return true;
     }
-    const passwd *pw = getpwnam(std::string(s).c_str());
-    if (pw) id = pw->pw_uid;
-    return pw != nullptr;
+    const Entry *e = by_name(std::string(s).c_str());
+    if (e) id = e->*member;
+    return e != nullptr;
 }
 
-bool group_id(std::string_view s, gid_t &id) {
-    unsigned long v;
-    if (number(s, v)) {
-        id = static_cast<gid_t>(v);
-        return true;
-    }
-    const group *gr = getgrnam(std::string(s).c_str());
-    if (gr) id = gr->gr_gid;
-    return gr != nullptr;
-}
+bool user_id(std::string_view s, uid_t &id) { return id_of(s, id, getpwnam, &passwd::pw_uid); }
+bool group_id(std::string_view s, gid_t &id) { return id_of(s, id, getgrnam, &group::gr_gid); }
 
 template <class Id, class Lookup>
 bool id_list(std::string_view list, std::vector<Id> &out, Lookup lookup) {
