@@ -46,13 +46,7 @@ int exit_status(pid_t pid) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-}  // namespace
-
-std::string fresh_dir() {
-    std::string tmpl = (std::getenv("TMPDIR") ? std::getenv("TMPDIR") : "/tmp") + std::string("/zesh-serve-XXXXXX");
-    return mkdtemp(tmpl.data()) ? tmpl : std::string();
-}
-
+// True once a connection to `path` is accepted (tried for up to 5 s).
 bool wait_for_socket(const std::string &path) {
     for (int i = 0; i < 500; ++i) {
         int fd = connect_to(path);
@@ -63,6 +57,13 @@ bool wait_for_socket(const std::string &path) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
     return false;
+}
+
+}  // namespace
+
+std::string fresh_dir() {
+    std::string tmpl = (std::getenv("TMPDIR") ? std::getenv("TMPDIR") : "/tmp") + std::string("/zesh-serve-XXXXXX");
+    return mkdtemp(tmpl.data()) ? tmpl : std::string();
 }
 
 Daemon::Daemon(const std::vector<std::string> &args) : dir_(fresh_dir()), socket_(dir_ + "/ifm.sock") {
@@ -127,7 +128,6 @@ bool RawClient::read(RawAnswer &a) {
     const uint8_t *b = rest.data() + 12;
     a.kind = ze_ifm_get16(&rest[2]);
     a.tag = ze_ifm_get32(&rest[4]);
-    a.flags = ze_ifm_get32(&rest[8]);
     a.status = ze_ifm_get32(b);
     a.result = ze_ifm_get32(b + 4);
     a.reply_len = ze_ifm_get32(b + 8);

@@ -22,7 +22,6 @@ public:
     Daemon &operator=(const Daemon &) = delete;
 
     const std::string &socket() const { return socket_; }
-    const std::string &dir() const { return dir_; }
     pid_t pid() const { return pid_; }
     // Sends `sig` and returns the exit status (-1: killed by a signal).
     int stop(int sig = 15);
@@ -37,12 +36,10 @@ private:
 int run_zesh(const std::vector<std::string> &args);
 // A fresh directory under the system's temporary directory.
 std::string fresh_dir();
-// True once a connection to `path` is accepted (tried for up to 5 s).
-bool wait_for_socket(const std::string &path);
 
 struct RawAnswer {
     uint16_t kind = 0;
-    uint32_t tag = 0, flags = 0;
+    uint32_t tag = 0;
     uint32_t status = 0, result = 0, reply_len = 0;
     std::vector<uint8_t> data;
     std::string text;

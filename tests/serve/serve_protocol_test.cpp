@@ -22,12 +22,12 @@ protected:
     // The daemon still answers a well-formed call, on a new connection.
     void expect_serving() {
         RawClient c(daemon.socket());
-        RawRoundTrip(c, zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body("chip_get_version", kVersionRequest), 7));
+        exchange(c, zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body("chip_get_version", kVersionRequest), 7));
         EXPECT_EQ(last.status, ZE_IFM_STATUS_OK);
         EXPECT_EQ(last.data, (std::vector<uint8_t>{0x02, 0x00, 0x01, 0x00}));
     }
 
-    void RawRoundTrip(RawClient &c, const std::vector<uint8_t> &f) {
+    void exchange(RawClient &c, const std::vector<uint8_t> &f) {
         ASSERT_TRUE(c.send(f));
         ASSERT_TRUE(c.read(last));
     }
@@ -44,13 +44,13 @@ TEST_F(Protocol, EveryTruncationOfACallIsMalformed) {
         SCOPED_TRACE(n);
         std::vector<uint8_t> cut(whole.begin(), whole.begin() + 4 + n);
         ze_ifm_put32(cut.data(), n);
-        RawRoundTrip(c, cut);
+        exchange(c, cut);
         EXPECT_EQ(last.status, ZE_IFM_STATUS_MALFORMED);
         EXPECT_EQ(last.tag, n >= 12 ? 3u : 0u);
         EXPECT_EQ(last.reply_len, ZE_IFM_NO_REPLY);
         EXPECT_FALSE(last.text.empty());
     }
-    RawRoundTrip(c, whole);
+    exchange(c, whole);
     EXPECT_EQ(last.status, ZE_IFM_STATUS_OK);
 }
 
@@ -63,19 +63,19 @@ TEST_F(Protocol, LengthsUpToTheLimitAreAnsweredAndPastItCloseTheConnection) {
         std::vector<uint8_t> body(size - ZE_IFM_HEADER_SIZE);
         for (auto &b : body) b = static_cast<uint8_t>(rng());
         if (body.size() >= 8) ze_ifm_put32(body.data(), static_cast<uint32_t>(body.size()));
-        RawRoundTrip(c, zetest::frame(ZE_IFM_KIND_CALL, body));
+        exchange(c, zetest::frame(ZE_IFM_KIND_CALL, body));
         EXPECT_EQ(last.status, body.size() > ZE_IFM_REQUEST_MAX ? ZE_IFM_STATUS_TOO_LARGE : ZE_IFM_STATUS_MALFORMED)
             << size;
     }
     std::vector<uint8_t> body = zetest::call_body("chip_get_version", std::vector<uint8_t>(ZE_IFM_REQUEST_MAX + 1));
-    RawRoundTrip(c, zetest::frame(ZE_IFM_KIND_CALL, body));
+    exchange(c, zetest::frame(ZE_IFM_KIND_CALL, body));
     EXPECT_EQ(last.status, ZE_IFM_STATUS_TOO_LARGE);
 
     for (uint32_t claimed : {ZE_IFM_FRAME_MAX - 3, 0x7fffffffu, 0xffffffffu}) {
         RawClient big(daemon.socket());
         std::vector<uint8_t> f = zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body("chip_get_version", kVersionRequest), 9);
         ze_ifm_put32(f.data(), claimed);
-        RawRoundTrip(big, f);
+        exchange(big, f);
         EXPECT_EQ(last.status, ZE_IFM_STATUS_TOO_LARGE);
         EXPECT_EQ(last.tag, 9u);
         EXPECT_TRUE(big.closed_by_daemon());
@@ -104,7 +104,7 @@ TEST_F(Protocol, WrongVersionUnknownKindFlagsAndCommandsAreRefused) {
     };
     RawClient c(daemon.socket());
     for (const Case &k : cases) {
-        RawRoundTrip(c, k.frame);
+        exchange(c, k.frame);
         EXPECT_EQ(last.status, k.status) << last.text;
         EXPECT_EQ(last.kind, (ze_ifm_get16(&k.frame[6]) | ZE_IFM_ANSWER_BIT));
     }
@@ -121,7 +121,7 @@ TEST_F(Protocol, RandomFramesAndStreamsNeverStopTheDaemon) {
         if (i % 2) ze_ifm_put16(&f[4], ZE_IFM_VERSION);
         if (i % 4 == 1) ze_ifm_put16(&f[6], static_cast<uint16_t>(1 + rng() % 3));
         if (i % 8 == 1) ze_ifm_put32(&f[12], 0);
-        RawRoundTrip(c, f);
+        exchange(c, f);
         EXPECT_EQ(last.tag, ze_ifm_get32(&f[8]));
     }
     // Streams of noise, then gone, often inside a frame.
@@ -158,7 +158,7 @@ TEST_F(Protocol, UncheckedHandlersStayInsideTheBuffer) {
     for (const zesh::CommandSpec &row : zesh::all_commands()) {
         if (row.checked) continue;
         SCOPED_TRACE(row.name);
-        RawRoundTrip(c, zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body(row.name, {})));
+        exchange(c, zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body(row.name, {})));
         EXPECT_EQ(last.status, ZE_IFM_STATUS_OK) << last.text;
     }
     expect_serving();
