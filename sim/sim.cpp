@@ -152,7 +152,10 @@ uint32_t ioctl_logged(uint32_t cmd, uintptr_t arg, const char *caller) {
 
     uint32_t r = injected(false, cmd, nullptr);
     if (r) {
-        // A failed open leaves no bracket; other failures change nothing.
+        // A failed open leaves no bracket and a failed close still ends
+        // one, as the driver's close releases the bracket whatever it
+        // reports; other failures change nothing.
+        if (cmd == kCmdClose) m.bracket_open = false;
     } else if (cmd == kCmdOpen) {
         r = m.bracket_open ? kErrBracket : 0;
         if (!r) m.bracket_open = true;

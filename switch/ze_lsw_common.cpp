@@ -51,17 +51,20 @@ uint32_t ze_lsw_eth_port_check(uint32_t port) {
 }
 
 uint32_t ze_lsw_port_get_bitmap(uint32_t port, uint32_t *bitmap) {
+    if (!bitmap) return ZE_ERR_NULL_PTR;
     if (port < 7) *bitmap |= kPortBit[port];
     return ZE_OK;
 }
 
 uint32_t ze_lsw_bitmap_get_port(uint32_t bitmap, uint32_t *port) {
+    if (!port) return ZE_ERR_NULL_PTR;
     for (uint32_t p = 0; p < 7; ++p)
         if (bitmap == kPortBit[p]) *port = p;
     return ZE_OK;
 }
 
 uint32_t ze_lsw_flow_get_portbitmap(uint32_t flags, uint32_t port, uint32_t *bitmap) {
+    if (!bitmap) return ZE_ERR_NULL_PTR;
     if (flags & 1u) return ze_lsw_port_get_bitmap(port, bitmap);
     *bitmap |= ZE_PORT_BITMAP_ALL;
     return ZE_OK;

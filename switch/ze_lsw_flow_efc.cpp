@@ -46,7 +46,13 @@ const ActGroup kActGroups[] = {
     {15, 17, EfcAttr::cvact, EfcAttr::cvvalue, [](const ze_efc_action_s &a) -> uint32_t { return a.cvlan; }},
 };
 
-// Writes a word of the action half, given as a field of the whole block.
+// Reads and writes a word of the action half, given as a field of the
+// whole block.
+uint32_t get_action(const uint8_t *tail, ze::U32<EfcAttr::kSize> f) {
+    uint32_t v = 0;
+    ze_os_memcpy(&v, tail + (f.offset - EfcAttr::kActionOffset), 4);
+    return v;
+}
 void put_action(uint8_t *tail, ze::U32<EfcAttr::kSize> f, uint32_t v) {
     ze_os_memcpy(tail + (f.offset - EfcAttr::kActionOffset), &v, 4);
 }
@@ -199,7 +205,8 @@ uint32_t ze_lsw_efc_get_fact(const ze_efc_action_s *action, uint32_t fwd_act, ui
     put_action(tail, EfcAttr::ext, action->ext);
     put_action(tail, EfcAttr::const196, kConst196);
     put_action(tail, EfcAttr::const200, kConst200);
-    uint32_t act = 0;
+    // An unknown forward action leaves the act word as the block held it.
+    uint32_t act = get_action(tail, EfcAttr::act);
     ze_lsw_efc_get_fwd_act(fwd_act, &act);
     put_action(tail, EfcAttr::act, act);
     return ZE_OK;

@@ -47,11 +47,14 @@
  *   u8 byte order of request and reply bytes (ZE_IFM_ORDER_*), u8 backend
  *   (ZE_IFM_BACKEND_*), u16 command count, u32 request buffer size; then
  *   per command: u8 name length, name (without the prefix), u8 family
- *   length, family, u32 request length, u32 reply length (ZE_IFM_NO_REPLY:
- *   none), u8 1 when the handler checks the request length, u8 field count,
- *   and per field: u8 name length, name, u8 type (ZE_IFM_FIELD_*), u8
- *   direction (ZE_IFM_DIR_*), u16 offset, u16 size; then u16 result count
- *   and per result code: u32 code, u8 text length, its meaning.
+ *   length, family, u8 summary length, its one-line summary, u32 request
+ *   length, u32 reply length (ZE_IFM_NO_REPLY: none), u8 1 when the
+ *   handler checks the request length, u8 field count, and per field: u8
+ *   name length, name, u8 type (ZE_IFM_FIELD_*), u8 direction
+ *   (ZE_IFM_DIR_*), u16 offset, u16 size, u8 1 when the input may be left
+ *   out, u8 length and the value it then takes, written as the shell reads
+ *   it; then u16 result count and per result code: u32 code, u8 name
+ *   length, its symbolic name, u8 meaning length, its meaning.
  */
 #ifndef ZE_IFM_WIRE_H
 #define ZE_IFM_WIRE_H
@@ -112,6 +115,8 @@
 #define ZE_IFM_FIELD_MAC 4u   /* 6 bytes in transmission order */
 #define ZE_IFM_FIELD_IPV4 5u  /* u32, a.b.c.d being a << 24 | ... | d */
 #define ZE_IFM_FIELD_BYTES 6u /* raw bytes */
+#define ZE_IFM_FIELD_U64 7u
+#define ZE_IFM_FIELD_TEXT 8u  /* a string and its terminator */
 #define ZE_IFM_DIR_IN 0u
 #define ZE_IFM_DIR_OUT 1u     /* written by the command */
 #define ZE_IFM_DIR_INOUT 2u

@@ -17,13 +17,14 @@ class DaemonError(Exception):
 
 
 class Result:
-    """What a command answered: its result code and the code's meaning, the
-    reply fields (those within the reply length), the reply bytes and
-    everything it printed."""
+    """What a command answered: its result code, the code's symbolic name
+    and meaning (None for a code the library does not name), the reply
+    fields (those within the reply length), the reply bytes and everything
+    it printed."""
 
     def __init__(self, command, answer, description):
         self.code = answer.result
-        self.name = description.meanings.get(answer.result)
+        self.name, self.meaning = description.results.get(answer.result, (None, None))
         self.reply_len = None if answer.reply_len == wire.NO_REPLY else answer.reply_len
         self.reply_bytes = answer.data
         self.reply = command.unpack_reply(answer.data, description.byte_order) if command else {}
@@ -35,7 +36,7 @@ class Result:
         return self.code == 0
 
     def __repr__(self):
-        return "Result(code=%#x (%s), reply=%r, printed=%r)" % (self.code, self.name, self.reply, self.printed)
+        return "Result(code=%#x %s, reply=%r, printed=%r)" % (self.code, self.name, self.reply, self.printed)
 
 
 class LineResult:
@@ -73,7 +74,12 @@ class Client:
         run.__name__ = command.name
         run.__doc__ = command.doc()
         run.__signature__ = inspect.Signature(
-            [inspect.Parameter(f.name, inspect.Parameter.KEYWORD_ONLY, default=0) for f in command.inputs()]
+            [
+                inspect.Parameter(
+                    f.name, inspect.Parameter.KEYWORD_ONLY, default=f.default() if f.optional else inspect.Parameter.empty
+                )
+                for f in command.inputs()
+            ]
         )
         return run
 

@@ -136,7 +136,9 @@ std::vector<uint32_t> raw_commands();
 // ---- Fault injection -------------------------------------------------------------
 // Fail command `cmd` with `code`: on its nth occurrence counted from now
 // (1-based), or on every occurrence when nth is 0. A failed command changes
-// nothing in the model. Command 0 is the bracket open.
+// nothing in the model. Command 0 is the bracket open: a failed open leaves
+// no bracket. Command 1 is the close: a failed close reports its code but
+// ends the bracket all the same, so the next open succeeds.
 void fail(uint32_t cmd, uint32_t code, uint32_t nth = 0);
 // The same for a named kernel call or datapath library operation.
 void fail_call(const char *name, uint32_t code, uint32_t nth = 0);

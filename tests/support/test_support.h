@@ -1,16 +1,23 @@
-// Shared fixture: a fresh simulator, an empty trace ring and the library's
-// console output captured, for every test.
+// Shared fixture: a fresh simulator, empty shadow tables, an empty trace ring
+// and the library's console output captured, for every test.
 #pragma once
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <ostream>
 #include <string>
 #include <vector>
 
+#include "command_table.h"
 #include "ze_host.h"
 #include "ze_sim.h"
+
+namespace zesh {
+// Failure messages and test lists show a command row by its name.
+void PrintTo(const CommandSpec &row, std::ostream *os);
+}  // namespace zesh
 
 namespace zetest {
 
@@ -39,5 +46,8 @@ uint32_t word_at(const zesim::Bytes &b, uint32_t offset);
 
 // The ioctl log entries of one command id.
 std::vector<zesim::LogEntry> entries_of(uint32_t cmd);
+
+// Name of a test instantiated over the command table: the row's command.
+std::string row_name(const ::testing::TestParamInfo<zesh::CommandSpec> &info);
 
 }  // namespace zetest

@@ -16,8 +16,9 @@
 namespace {
 
 void usage() {
-    std::cout << "usage: zesh [--device NODE] [--trace | --trace-file F] [-c 'CMD; CMD ...' | FILE]\n"
+    std::cout << "usage: zesh [--json] [--device NODE] [--trace | --trace-file F] [-c 'CMD; CMD ...' | FILE]\n"
                  "  no argument: interactive (a non-terminal input is read as a script)\n"
+                 "  --json         print each outcome as one JSON object per line\n"
                  "  --device NODE  send datapath commands to NODE instead of the simulator\n"
                  "  --trace        echo every trace record to stderr\n"
                  "  --trace-file F append every trace record to file F\n";
@@ -35,8 +36,11 @@ bool run_stream(zesh::Shell &sh, std::istream &in) {
 int main(int argc, char **argv) {
     if (argc > 1 && !std::strcmp(argv[1], "serve")) return zesh::serve_main(argc - 2, argv + 2);
     const char *script = nullptr, *file = nullptr;
+    bool json = false;
     for (int i = 1; i < argc; ++i) {
-        if (!std::strcmp(argv[i], "-c") && i + 1 < argc) {
+        if (!std::strcmp(argv[i], "--json")) {
+            json = true;
+        } else if (!std::strcmp(argv[i], "-c") && i + 1 < argc) {
             script = argv[++i];
         } else if (!std::strcmp(argv[i], "--device") && i + 1 < argc) {
             ze_host_use_device(argv[++i]);
@@ -62,6 +66,7 @@ int main(int argc, char **argv) {
     }
 
     zesh::Shell sh(std::cout);
+    sh.set_json(json);
     uint32_t r = ze_adapter_cli_init();
     if (r) {
         std::cerr << "\nzesh: command registration failed with 0x" << std::hex << r << "\n";
@@ -82,7 +87,7 @@ int main(int argc, char **argv) {
     std::cout << "zesh: switch adapter shell on "
               << (ze_host_backend_is_simulator() ? "the simulator" : "a device node")
               << ". 'help' lists the commands.\n";
-    zesh::line_input_init(sh.completion_names());
+    zesh::line_input_init();
     while (!sh.quit_requested()) {
         auto line = zesh::read_line("zesh> ");
         if (!line) break;

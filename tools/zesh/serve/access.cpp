@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "api_table.h"
 #include "shell.h"
 
 namespace zesh::serve {
@@ -17,8 +18,8 @@ bool Access::may_write_board(uid_t uid) const {
 }
 
 bool writes_board_memory(std::string_view function) {
-    if (!function.starts_with("ze_")) return writes_board_memory("ze_" + std::string(function));
-    return function == "ze_board_write_phymem";
+    const api::Row *row = api::find(function);
+    return row && (row->flags & api::kWritesBoard);
 }
 
 // The line is split exactly as the shell will split it, so what is checked

@@ -42,6 +42,8 @@ uint32_t wire_type(FieldType t) {
         case FieldType::Mac: return ZE_IFM_FIELD_MAC;
         case FieldType::Ipv4: return ZE_IFM_FIELD_IPV4;
         case FieldType::Bytes: return ZE_IFM_FIELD_BYTES;
+        case FieldType::U64: return ZE_IFM_FIELD_U64;
+        case FieldType::Text: return ZE_IFM_FIELD_TEXT;
     }
     return ZE_IFM_FIELD_BYTES;
 }
@@ -53,6 +55,7 @@ uint32_t wire_dir(Dir d) {
 void command(Writer &w, const char *family, const CommandSpec &c) {
     w.text(c.name);
     w.text(family);
+    w.text(c.summary);
     w.u32(c.request);
     w.u32(c.reply == kNoReply ? ZE_IFM_NO_REPLY : static_cast<uint32_t>(c.reply));
     w.u8(c.checked ? 1 : 0);
@@ -64,6 +67,8 @@ void command(Writer &w, const char *family, const CommandSpec &c) {
         w.u8(wire_dir(f.dir));
         w.u16(f.offset);
         w.u16(f.size);
+        w.u8(f.optional ? 1 : 0);
+        w.text(f.fallback);
     }
 }
 
@@ -72,13 +77,11 @@ bool registered(const CommandSpec &c) {
 }
 
 // The codes the shell names: the library's own codes are small, or
-// 0xffffffff; a code the shell does not know gets the meaning it gives
-// 0x7fffffff.
+// 0xffffffff.
 std::vector<uint32_t> named_codes() {
-    const std::string_view unknown = result_meaning(0x7fffffffu);
     std::vector<uint32_t> codes;
     for (uint32_t code = 0; code < 256; ++code)
-        if (unknown != result_meaning(code)) codes.push_back(code);
+        if (result_name(code)) codes.push_back(code);
     codes.push_back(0xffffffffu);
     return codes;
 }
@@ -100,6 +103,7 @@ std::vector<uint8_t> describe_commands() {
     w.u16(static_cast<uint32_t>(codes.size()));
     for (uint32_t code : codes) {
         w.u32(code);
+        w.text(result_name(code));
         w.text(result_meaning(code));
     }
     return w.take();

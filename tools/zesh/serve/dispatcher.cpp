@@ -1,12 +1,12 @@
 #include "dispatcher.h"
 
 #include <algorithm>
-#include <cstring>
-#include <ostream>
+#include <sstream>
 #include <string>
 
 #include "command_table.h"
-#include "console_capture.h"
+#include "bounded_text.h"
+#include "executor.h"
 #include "request.h"
 #include "shell.h"
 #include "ze_host.h"
@@ -17,7 +17,7 @@ namespace zesh::serve {
 static_assert(ZE_IFM_REQUEST_MAX == kRequestBufferSize);
 
 Dispatcher::Dispatcher(const Access &access)
-    : access_(access), buffer_(kRequestBufferSize), description_(describe_commands()) {}
+    : access_(access), description_(describe_commands()) {}
 
 Answer Dispatcher::run(std::span<const uint8_t> frame, const ucred &peer) {
     const Header h = read_header(frame);
@@ -60,19 +60,21 @@ Answer Dispatcher::call(const Header &h, std::span<const uint8_t> body) {
     ze_ifm_handler_f handler = name.find('\0') == std::string::npos ? ze_host_ifm_find(full.c_str()) : nullptr;
     if (!handler) return refusal(h, ZE_IFM_STATUS_UNKNOWN_COMMAND, "no command '" + name + "'");
 
-    std::ranges::fill(buffer_, 0);
-    std::memcpy(buffer_.data(), &body[8 + name_len], req_len);
-    uint32_t reply_len = kReplyUnset;
-    ConsoleCapture console(ZE_IFM_TEXT_MAX);
-    console.take_library_output();
+    // The shell's own executor runs it: the buffer, the reply and the
+    // console are those of the command run in the shell.
+    std::ostringstream idle;  // nothing prints between runs
+    LocalExecutor local(idle);
+    Outcome o = local.run_command(full, body.subspan(8 + name_len, req_len), req_len);
     Answer a = answer_to(h);
-    a.result = handler(buffer_.data(), req_len, &reply_len);
-    if (reply_len != kReplyUnset) {
-        a.reply_len = reply_len;
-        a.data = std::span(buffer_).first(std::min<size_t>(reply_len, buffer_.size()));
+    a.result = o.code;
+    if (o.reply_len != kReplyUnset) {
+        a.reply_len = o.reply_len;
+        reply_ = std::move(o.reply);
+        a.data = reply_;
     }
-    a.truncated = console.truncated();
-    a.text = console.release();
+    a.truncated = o.printed.size() > ZE_IFM_TEXT_MAX;
+    o.printed.resize(std::min<size_t>(o.printed.size(), ZE_IFM_TEXT_MAX));
+    a.text = std::move(o.printed);
     return a;
 }
 
@@ -84,7 +86,7 @@ Answer Dispatcher::line(const Header &h, std::span<const uint8_t> body, const uc
     if (line_writes_board(text) && !access_.may_write_board(peer.uid))
         return refusal(h, ZE_IFM_STATUS_NOT_PERMITTED,
                        "uid " + std::to_string(peer.uid) + " may not write board memory");
-    ConsoleCapture console(ZE_IFM_TEXT_MAX);
+    BoundedText console(ZE_IFM_TEXT_MAX);
     std::ostream out(&console);
     bool ok;
     {

@@ -24,7 +24,7 @@ private:
     Answer line(const Header &h, std::span<const uint8_t> body, const ucred &peer);
 
     const Access &access_;
-    std::vector<uint8_t> buffer_;       // the request buffer every handler gets
+    std::vector<uint8_t> reply_;        // the last call's reply bytes
     std::vector<uint8_t> description_;  // the describe answer's data, made once
 };
 
