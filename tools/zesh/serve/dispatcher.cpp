@@ -4,8 +4,8 @@
 #include <sstream>
 #include <string>
 
-#include "command_table.h"
 #include "bounded_text.h"
+#include "command_table.h"
 #include "executor.h"
 #include "request.h"
 #include "shell.h"
@@ -57,8 +57,8 @@ Answer Dispatcher::call(const Header &h, std::span<const uint8_t> body) {
                                                        " bytes does not match its lengths");
     const std::string name(reinterpret_cast<const char *>(&body[8]), name_len);
     const std::string full = name.starts_with(kCliPrefix) ? name : kCliPrefix + name;
-    ze_ifm_handler_f handler = name.find('\0') == std::string::npos ? ze_host_ifm_find(full.c_str()) : nullptr;
-    if (!handler) return refusal(h, ZE_IFM_STATUS_UNKNOWN_COMMAND, "no command '" + name + "'");
+    if (name.find('\0') != std::string::npos || !ze_host_ifm_find(full.c_str()))
+        return refusal(h, ZE_IFM_STATUS_UNKNOWN_COMMAND, "no command '" + name + "'");
 
     // The shell's own executor runs it: the buffer, the reply and the
     // console are those of the command run in the shell.
