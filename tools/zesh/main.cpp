@@ -9,6 +9,7 @@
 
 #include "line_input.h"
 #include "replay.h"
+#include "serve/serve.h"
 #include "shell.h"
 #include "ze_adapter_cli.h"
 #include "ze_host.h"
@@ -48,6 +49,7 @@ bool run_stream(zesh::Shell &sh, std::istream &in) {
 }  // namespace
 
 int main(int argc, char **argv) {
+    if (argc > 1 && !std::strcmp(argv[1], "serve")) return zesh::serve_main(argc - 2, argv + 2);
     const char *script = nullptr, *file = nullptr, *replay_file = nullptr;
     bool json = false;
     for (int i = 1; i < argc; ++i) {
