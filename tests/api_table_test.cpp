@@ -31,6 +31,15 @@ TEST(ApiTable, NamesExactlyTheExportedApiFunctions) {
     EXPECT_EQ(table, exported);
 }
 
+}  // namespace
+
+namespace zesh::api {
+// A case is shown by its function's name, never by the row's address.
+void PrintTo(const Row *r, std::ostream *os) { *os << r->name; }
+}  // namespace zesh::api
+
+namespace {
+
 class ApiRows : public zetest::SimTest, public ::testing::WithParamInterface<const Row *> {
 protected:
     bool run(const std::string &line, std::string &out) {
