@@ -62,7 +62,10 @@ TEST_F(Protocol, LengthsUpToTheLimitAreAnsweredAndPastItCloseTheConnection) {
     for (uint32_t size = ZE_IFM_HEADER_SIZE; size <= ZE_IFM_FRAME_MAX; size += 4093) {
         std::vector<uint8_t> body(size - ZE_IFM_HEADER_SIZE);
         for (auto &b : body) b = static_cast<uint8_t>(rng());
-        if (body.size() >= 8) ze_ifm_put32(body.data(), static_cast<uint32_t>(body.size()));
+        if (body.size() >= 8) {
+            ze_ifm_put32(body.data(), static_cast<uint32_t>(body.size()));
+            ze_ifm_put16(&body[6], 0);  // no further bytes
+        }
         exchange(c, zetest::frame(ZE_IFM_KIND_CALL, body));
         EXPECT_EQ(last.status, body.size() > ZE_IFM_REQUEST_MAX ? ZE_IFM_STATUS_TOO_LARGE : ZE_IFM_STATUS_MALFORMED)
             << size;
@@ -90,9 +93,9 @@ TEST_F(Protocol, WrongVersionUnknownKindFlagsAndCommandsAreRefused) {
     } cases[] = {
         {zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body("chip_get_version", kVersionRequest), 1, 2),
          ZE_IFM_STATUS_WRONG_VERSION},
-        {zetest::frame(ZE_IFM_KIND_API, {}), ZE_IFM_STATUS_UNKNOWN_KIND},
+        {zetest::frame(ZE_IFM_KIND_DESCRIBE_API + 1, {}), ZE_IFM_STATUS_UNKNOWN_KIND},
         {zetest::frame(0x7fff, {}), ZE_IFM_STATUS_UNKNOWN_KIND},
-        {zetest::frame(ZE_IFM_KIND_LINE, zetest::text_body("echo x"), 1, ZE_IFM_VERSION, ZE_IFM_FLAG_JSON),
+        {zetest::frame(ZE_IFM_KIND_LINE, zetest::text_body("echo x"), 1, ZE_IFM_VERSION, 1),
          ZE_IFM_STATUS_UNSUPPORTED_FLAGS},
         {zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body("no_such_command", {})), ZE_IFM_STATUS_UNKNOWN_COMMAND},
         {zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body(std::string("chip_get_version\0x", 18), kVersionRequest)),
