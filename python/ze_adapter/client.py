@@ -5,6 +5,7 @@ import os
 import socket
 
 from . import wire
+from .api import describe_functions
 from .commands import PREFIX, Description
 
 
@@ -52,6 +53,60 @@ class LineResult:
         return "LineResult(ok=%r, printed=%r)" % (self.ok, self.printed)
 
 
+class ApiResult:
+    """What an exported function returned: its result code, the code's
+    name and meaning, its outputs by parameter name (numbers, addresses as
+    text, structures as dicts, arrays as lists, byte strings as bytes), each
+    parameter's bytes after the call and everything it printed."""
+
+    def __init__(self, function, answer, description):
+        self.code = answer.result
+        self.name, self.meaning = description.results.get(answer.result, (None, None))
+        self.args = wire.api_args(answer.data, len(function.params))
+        self.outputs = function.outputs(description.byte_order, self.args)
+        self.printed = answer.text
+
+    @property
+    def ok(self):
+        return self.code == 0
+
+    def __repr__(self):
+        return "ApiResult(code=%#x %s, outputs=%r, printed=%r)" % (self.code, self.name, self.outputs, self.printed)
+
+
+class Api:
+    """One method per exported API function of the daemon's library, whose
+    keyword arguments are the function's input parameters."""
+
+    def __init__(self, client, functions):
+        self._client = client
+        self.functions = functions
+        for function in functions.values():
+            setattr(self, function.name, self._method(function))
+
+    def _method(self, function):
+        def run(**values):
+            return self.call(function.name, function.pack(self._client.description.byte_order, values))
+
+        run.__name__ = function.name
+        run.__doc__ = function.doc
+        run.__signature__ = inspect.Signature(
+            [
+                inspect.Parameter(
+                    p.name, inspect.Parameter.KEYWORD_ONLY, default=inspect.Parameter.empty if p.required else None
+                )
+                for p in function.inputs()
+            ]
+        )
+        return run
+
+    def call(self, name, args):
+        """Calls a function with each parameter's raw bytes (its exact size,
+        in the daemon's byte order)."""
+        answer = self._client._request(wire.KIND_API, wire.api_body(name, args))
+        return ApiResult(self.functions[name], answer, self._client.description)
+
+
 class Client:
     """A connection to a ``zesh serve`` daemon. `path`: the socket; without
     it $ZE_IFM_SOCKET, else /run/ze_ifm.sock. One caller at a time."""
@@ -66,6 +121,7 @@ class Client:
         self.commands = self.description.commands
         for command in self.commands.values():
             setattr(self, command.name, self._method(command))
+        self.api = Api(self, describe_functions(self._request(wire.KIND_DESCRIBE_API, b"").data))
 
     def _method(self, command):
         def run(**fields):
