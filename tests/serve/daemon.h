@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "ze_ifm_wire.h"
+#include "ze_ifm_client.h"
 
 namespace zetest {
 
@@ -32,10 +32,25 @@ private:
     pid_t pid_ = -1;
 };
 
-// Runs `zesh ARGS...` to its end; returns the exit status.
-int run_zesh(const std::vector<std::string> &args);
+// What `zesh ARGS...` did, run to its end.
+struct Ran {
+    int status = -2;  // -1: killed by a signal
+    std::string out, err;
+};
+Ran run_zesh(const std::vector<std::string> &args);
 // A fresh directory under the system's temporary directory.
 std::string fresh_dir();
+// Reads a whole file.
+std::string file_text(const std::string &path);
+
+// Runs a shell line in the daemon: the status (0: every command could
+// run, 1: one could not, or a transport code), and what it printed.
+uint32_t run_line(ze_ifm_client *c, const std::string &text, std::string *printed = nullptr);
+uint32_t run_line(const std::string &socket, const std::string &text, std::string *printed = nullptr);
+
+// The IP rule commands dump their request with its buffer's address, which
+// differs between processes.
+std::string without_addresses(const std::string &s);
 
 struct RawAnswer {
     uint16_t kind = 0;

@@ -57,6 +57,28 @@ TEST(CClient, RepliesFitTheRoomGivenAndRefusalsSayWhy) {
     ze_ifm_client_close(c);
 }
 
+TEST(CClient, CallsAnExportedFunctionWithEachParametersBytes) {
+    zetest::Daemon d;
+    ze_ifm_client *c = ze_ifm_client_open(d.socket().c_str());
+    ASSERT_NE(c, nullptr);
+    uint32_t port = 5;
+    uint16_t vlan = 0;
+    void *params[] = {&port, &vlan};
+    uint32_t sizes[] = {4, 2};
+    EXPECT_EQ(ze_ifm_client_api_on(c, "ze_lsw_port_get_defvlan", 2, params, sizes, nullptr), 0u);
+    EXPECT_EQ(vlan, 1u);
+    // A parameter of another size is refused, and nothing is written back.
+    sizes[1] = 4;
+    vlan = 7;
+    char *why = nullptr;
+    EXPECT_EQ(ze_ifm_client_api_on(c, "ze_lsw_port_get_defvlan", 2, params, sizes, &why),
+              ZE_IFM_CLIENT_ERR_STATUS(ZE_IFM_STATUS_BAD_ARGUMENTS));
+    EXPECT_STREQ(why, "vlan of ze_lsw_port_get_defvlan is 2 bytes, not 4");
+    EXPECT_EQ(vlan, 7u);
+    ze_ifm_client_free(why);
+    ze_ifm_client_close(c);
+}
+
 // The answer a client gets from a peer that sends `bytes` to its first
 // request (tag 1).
 uint32_t answered_with(const std::vector<uint8_t> &bytes) {

@@ -6,6 +6,7 @@
 
 #include "command_table.h"
 #include "daemon.h"
+#include "serve/protocol.h"
 #include "test_support.h"
 
 namespace {
@@ -14,6 +15,12 @@ using zetest::RawAnswer;
 using zetest::RawClient;
 
 const std::vector<uint8_t> kVersionRequest(4, 0);
+std::vector<uint8_t> filled_past_the_buffer() {
+    std::vector<uint8_t> b(ZE_IFM_REQUEST_MAX + 1, 0);
+    b.back() = 1;
+    return b;
+}
+const std::vector<uint8_t> kFlowDiagnosePastIt = filled_past_the_buffer();
 
 class Protocol : public ::testing::Test {
 protected:
@@ -103,6 +110,10 @@ TEST_F(Protocol, WrongVersionUnknownKindFlagsAndCommandsAreRefused) {
         {zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body("emac_get_llid", kVersionRequest)),
          ZE_IFM_STATUS_UNKNOWN_COMMAND},
         {zetest::frame(ZE_IFM_KIND_DESCRIBE, {1}), ZE_IFM_STATUS_MALFORMED},
+        {zetest::frame(ZE_IFM_KIND_DESCRIBE_API, {1}), ZE_IFM_STATUS_MALFORMED},
+        // A request within the buffer, with further bytes past it.
+        {zetest::frame(ZE_IFM_KIND_CALL, zesh::serve::call_body("flow_diagnose", kFlowDiagnosePastIt, 0)),
+         ZE_IFM_STATUS_TOO_LARGE},
         {zetest::frame(ZE_IFM_KIND_LINE, {'e', 0, 'x'}), ZE_IFM_STATUS_MALFORMED},
     };
     RawClient c(daemon.socket());
