@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <sstream>
 #include <string>
 
@@ -98,7 +99,7 @@ Answer Dispatcher::call(const Header &h, std::span<const uint8_t> body, const uc
     // The shell's own executor runs it: the buffer, the reply and the
     // console are those of the command run in the shell.
     const auto bytes = body.subspan(8 + name_len, req_len + further);
-    note(peer, call_line(name, bytes, req_len));
+    note(peer, call_line(full.substr(std::strlen(kCliPrefix)), bytes, req_len));
     std::ostringstream idle;  // nothing prints between runs
     LocalExecutor local(idle);
     Outcome o = local.run_command(full, bytes, req_len);
