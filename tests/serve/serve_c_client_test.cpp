@@ -68,13 +68,14 @@ TEST(CClient, CallsAnExportedFunctionWithEachParametersBytes) {
     EXPECT_EQ(ze_ifm_client_api_on(c, "ze_lsw_port_get_defvlan", 2, params, sizes, nullptr), 0u);
     EXPECT_EQ(vlan, 1u);
     // A parameter of another size is refused, and nothing is written back.
-    sizes[1] = 4;
-    vlan = 7;
+    uint32_t wide = 7;
+    params[1] = &wide;
+    sizes[1] = sizeof wide;
     char *why = nullptr;
     EXPECT_EQ(ze_ifm_client_api_on(c, "ze_lsw_port_get_defvlan", 2, params, sizes, &why),
               ZE_IFM_CLIENT_ERR_STATUS(ZE_IFM_STATUS_BAD_ARGUMENTS));
     EXPECT_STREQ(why, "vlan of ze_lsw_port_get_defvlan is 2 bytes, not 4");
-    EXPECT_EQ(vlan, 7u);
+    EXPECT_EQ(wide, 7u);
     ze_ifm_client_free(why);
     ze_ifm_client_close(c);
 }
