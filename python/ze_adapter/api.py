@@ -5,7 +5,6 @@ the bytes of its C type (a pointer parameter as what it points at)."""
 from . import wire
 from .commands import Field, Reader
 
-_BY_POINTER = (wire.ROLE_IN, wire.ROLE_INOUT)
 _OUTPUTS = (wire.ROLE_OUT, wire.ROLE_INOUT, wire.ROLE_BYTES, wire.ROLE_OUT_BYTES)
 _STRINGS = (wire.ROLE_BYTES, wire.ROLE_ADDRESS)
 
@@ -37,8 +36,7 @@ class Param:
         return self.is_input and not self.fields
 
     def _element(self):
-        direction = wire.DIR_INOUT if self.role in _BY_POINTER else wire.DIR_IN
-        return Field(self.name, self.type, direction, 0, self.size)
+        return Field(self.name, self.type, wire.DIR_INOUT, 0, self.size)
 
     def _pack_element(self, buf, at, order, value):
         if not self.fields:

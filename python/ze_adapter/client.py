@@ -17,18 +17,15 @@ class DaemonError(Exception):
         self.status, self.message = status, message
 
 
-class Result:
-    """What a command answered: its result code, the code's symbolic name
-    and meaning (None for a code the library does not name), the reply
-    fields (those within the reply length), the reply bytes and everything
-    it printed."""
+class _Coded:
+    """A result code, the code's symbolic name and meaning (None for a code
+    the library does not name) and everything the request printed."""
 
-    def __init__(self, command, answer, description):
+    _shown = ""  # the member that the representation shows beside the code
+
+    def __init__(self, answer, description):
         self.code = answer.result
         self.name, self.meaning = description.results.get(answer.result, (None, None))
-        self.reply_len = None if answer.reply_len == wire.NO_REPLY else answer.reply_len
-        self.reply_bytes = answer.data
-        self.reply = command.unpack_reply(answer.data, description.byte_order) if command else {}
         self.printed = answer.text
         self.truncated = answer.truncated
 
@@ -37,7 +34,27 @@ class Result:
         return self.code == 0
 
     def __repr__(self):
-        return "Result(code=%#x %s, reply=%r, printed=%r)" % (self.code, self.name, self.reply, self.printed)
+        return "%s(code=%#x %s, %s=%r, printed=%r)" % (
+            type(self).__name__,
+            self.code,
+            self.name,
+            self._shown,
+            getattr(self, self._shown),
+            self.printed,
+        )
+
+
+class Result(_Coded):
+    """What a command answered: the result code, the reply fields (those
+    within the reply length), the reply bytes and what it printed."""
+
+    _shown = "reply"
+
+    def __init__(self, command, answer, description):
+        super().__init__(answer, description)
+        self.reply_len = None if answer.reply_len == wire.NO_REPLY else answer.reply_len
+        self.reply_bytes = answer.data
+        self.reply = command.unpack_reply(answer.data, description.byte_order) if command else {}
 
 
 class LineResult:
@@ -53,25 +70,18 @@ class LineResult:
         return "LineResult(ok=%r, printed=%r)" % (self.ok, self.printed)
 
 
-class ApiResult:
-    """What an exported function returned: its result code, the code's
-    name and meaning, its outputs by parameter name (numbers, addresses as
-    text, structures as dicts, arrays as lists, byte strings as bytes), each
-    parameter's bytes after the call and everything it printed."""
+class ApiResult(_Coded):
+    """What an exported function returned: the result code, its outputs by
+    parameter name (numbers, addresses as text, structures as dicts, arrays
+    as lists, byte strings as bytes), each parameter's bytes after the call
+    and what it printed."""
+
+    _shown = "outputs"
 
     def __init__(self, function, answer, description):
-        self.code = answer.result
-        self.name, self.meaning = description.results.get(answer.result, (None, None))
+        super().__init__(answer, description)
         self.args = wire.api_args(answer.data, len(function.params))
         self.outputs = function.outputs(description.byte_order, self.args)
-        self.printed = answer.text
-
-    @property
-    def ok(self):
-        return self.code == 0
-
-    def __repr__(self):
-        return "ApiResult(code=%#x %s, outputs=%r, printed=%r)" % (self.code, self.name, self.outputs, self.printed)
 
 
 class Api:
