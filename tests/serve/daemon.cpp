@@ -1,5 +1,7 @@
 #include "daemon.h"
 
+#include <gtest/gtest.h>
+
 #include "serve/protocol.h"
 
 #include <fcntl.h>
@@ -86,6 +88,30 @@ int Daemon::stop(int sig) {
     int status = exit_status(pid_);
     pid_ = -1;
     return status;
+}
+
+FakeDaemon::FakeDaemon(std::vector<std::vector<uint8_t>> answers)
+    : dir_(fresh_dir()), socket_(dir_ + "/fake.sock") {
+    sockaddr_un addr{};
+    addr.sun_family = AF_UNIX;
+    std::strncpy(addr.sun_path, socket_.c_str(), sizeof addr.sun_path - 1);
+    fd_ = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    EXPECT_EQ(bind(fd_, reinterpret_cast<sockaddr *>(&addr), sizeof addr), 0);
+    listen(fd_, 1);
+    peer_ = std::thread([this, answers = std::move(answers)] {
+        int c = accept(fd_, nullptr, nullptr);
+        uint8_t request[256];
+        for (const auto &a : answers)
+            if (recv(c, request, sizeof request, 0) <= 0 || send(c, a.data(), a.size(), MSG_NOSIGNAL) < 0) break;
+        close(c);
+    });
+}
+
+FakeDaemon::~FakeDaemon() {
+    shutdown(fd_, SHUT_RDWR);  // a peer still waiting for a client gives up
+    peer_.join();
+    close(fd_);
+    std::system(("rm -rf '" + dir_ + "'").c_str());
 }
 
 std::string Daemon::log() const { return file_text(dir_ + "/log"); }

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "ze_ifm_client.h"
@@ -30,6 +31,23 @@ public:
 private:
     std::string dir_, socket_;
     pid_t pid_ = -1;
+};
+
+// A peer on a socket of its own that answers each request it reads with
+// the next of `answers` (sent as given), then closes the connection: a
+// daemon that breaks the wire format, or one that is lost.
+class FakeDaemon {
+public:
+    explicit FakeDaemon(std::vector<std::vector<uint8_t>> answers);
+    ~FakeDaemon();
+    FakeDaemon(const FakeDaemon &) = delete;
+    FakeDaemon &operator=(const FakeDaemon &) = delete;
+    const std::string &socket() const { return socket_; }
+
+private:
+    std::string dir_, socket_;
+    int fd_ = -1;
+    std::thread peer_;
 };
 
 // What `zesh ARGS...` did, run to its end.

@@ -1,22 +1,16 @@
-// `zesh --connect`: scripts, JSON and interactive use against a daemon
-// print what they print in-process; a daemon out of reach or lost is
+// `zesh --connect`: scripts and JSON against a daemon print what they
+// print in-process; a daemon out of reach or lost is
 // reported with exit status 3; a recording made on the daemon replays as
 // identical.
-#include <poll.h>
-#include <pty.h>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <regex>
-#include <thread>
 
 #include "daemon.h"
+#include "serve/protocol.h"
 #include "test_support.h"
 
 namespace {
@@ -79,45 +73,17 @@ TEST_P(ConnectPrintsAsInProcess, TextAndJson) {
 INSTANTIATE_TEST_SUITE_P(Every, ConnectPrintsAsInProcess, ::testing::ValuesIn(inputs()),
                          [](const auto &info) { return info.param.name; });
 
-// A peer that answers the describe request and then closes the connection
-// on the next request: the daemon lost in the middle of a script.
-class VanishingDaemon {
-public:
-    VanishingDaemon() : dir_(zetest::fresh_dir()), path_(dir_ + "/ifm.sock") {
-        sockaddr_un addr{};
-        addr.sun_family = AF_UNIX;
-        std::strncpy(addr.sun_path, path_.c_str(), sizeof addr.sun_path - 1);
-        fd_ = ::socket(AF_UNIX, SOCK_STREAM, 0);
-        EXPECT_EQ(bind(fd_, reinterpret_cast<sockaddr *>(&addr), sizeof addr), 0);
-        listen(fd_, 1);
-        peer_ = std::thread([this] {
-            int c = accept(fd_, nullptr, nullptr);
-            uint8_t request[ZE_IFM_HEADER_SIZE];
-            if (recv(c, request, sizeof request, MSG_WAITALL) == sizeof request) {
-                const uint8_t described[] = {ZE_IFM_ORDER_LITTLE, ZE_IFM_BACKEND_SIMULATOR};
-                std::vector<uint8_t> a(ZE_IFM_HEADER_SIZE + ZE_IFM_ANSWER_SIZE);
-                ze_ifm_put_header(a.data(), ZE_IFM_ANSWER_SIZE + 2, ZE_IFM_KIND_DESCRIBE | ZE_IFM_ANSWER_BIT,
-                                  ze_ifm_get32(request + 8), 0);
-                ze_ifm_put32(&a[ZE_IFM_HEADER_SIZE + 12], 2);
-                a.insert(a.end(), described, described + 2);
-                (void)!send(c, a.data(), a.size(), MSG_NOSIGNAL);
-                (void)!recv(c, request, sizeof request, 0);  // the next request, left unanswered
-            }
-            close(c);
-        });
-    }
-    ~VanishingDaemon() {
-        peer_.join();
-        close(fd_);
-        std::filesystem::remove_all(dir_);
-    }
-    const std::string &socket() const { return path_; }
-
-private:
-    std::string dir_, path_;
-    int fd_ = -1;
-    std::thread peer_;
-};
+// A daemon that answers the describe request and is gone at the next.
+std::vector<uint8_t> described_then_gone() {
+    zesh::serve::Answer a;
+    a.kind = ZE_IFM_KIND_DESCRIBE;
+    a.tag = 1;
+    const uint8_t described[] = {ZE_IFM_ORDER_LITTLE, ZE_IFM_BACKEND_SIMULATOR};
+    a.data = described;
+    std::vector<uint8_t> frame;
+    zesh::serve::encode(a, frame);
+    return frame;
+}
 
 TEST(Connect, ADaemonOutOfReachOrLostEndsTheShellWithStatusThree) {
     const zetest::Ran absent = run_zesh({"--connect", "/nonexistent/ifm.sock", "-c", "echo hi"});
@@ -126,7 +92,7 @@ TEST(Connect, ADaemonOutOfReachOrLostEndsTheShellWithStatusThree) {
     EXPECT_EQ(absent.err, "zesh: no daemon at /nonexistent/ifm.sock: No such file or directory\n");
 
     for (const char *json : {"", "--json"}) {
-        VanishingDaemon vanishing;
+        zetest::FakeDaemon vanishing({described_then_gone()});
         std::vector<std::string> args{"--connect", vanishing.socket(), "-c", "echo before; chip_get_version; echo after"};
         if (*json) args.insert(args.begin(), json);
         const zetest::Ran lost = run_zesh(args);
@@ -162,44 +128,5 @@ TEST(Connect, ARecordingOnTheDaemonReplaysAsIdentical) {
     EXPECT_NE(recording.find("> chip_set_upmode 0; chip_get_upmode\n"), std::string::npos);
     std::filesystem::remove_all(dir);
 }
-
-#ifdef ZESH_HAVE_LIBEDIT
-// Reads the terminal until `want` appears (or 5 s pass); returns all read.
-std::string read_until(int fd, const std::string &want) {
-    std::string seen;
-    for (int i = 0; i < 50 && seen.find(want) == std::string::npos; ++i) {
-        pollfd p{fd, POLLIN, 0};
-        char buf[4096];
-        ssize_t n = poll(&p, 1, 100) > 0 ? read(fd, buf, sizeof buf) : 0;
-        if (n < 0) break;
-        seen.append(buf, static_cast<size_t>(n));
-    }
-    return seen;
-}
-
-TEST(Connect, InteractiveCompletionComesFromTheLocalTables) {
-    Daemon daemon;
-    int fd = -1;
-    const pid_t pid = forkpty(&fd, nullptr, nullptr, nullptr);
-    if (pid == 0) {
-        setenv("ZESH_HISTORY", "/dev/null", 1);
-        setenv("TERM", "xterm", 1);
-        execl(ZESH_BINARY, "zesh", "--connect", daemon.socket().c_str(), nullptr);
-        _exit(127);
-    }
-    EXPECT_NE(read_until(fd, "zesh> ").find("in the daemon at " + daemon.socket()), std::string::npos);
-    // The command's name and then its field's name are completed.
-    const std::string keys = "lsw_port_get_m\tp\t0\r";
-    ASSERT_EQ(write(fd, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
-    const std::string shown = read_until(fd, "zesh> ");
-    EXPECT_NE(shown.find("lsw_port_get_mtu: result 0 (ok)\r\n  mtu = 1518"), std::string::npos) << shown;
-    ASSERT_EQ(write(fd, "\x04", 1), 1);
-    int status = -1;
-    waitpid(pid, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
-    close(fd);
-    EXPECT_EQ(daemon.stop(), 0) << daemon.log();
-}
-#endif
 
 }  // namespace
