@@ -103,7 +103,7 @@ TEST(ApiFrames, ThoseThatDoNotFitTheFunctionAreRefused) {
         {"bytes after the parameters", trailing, ZE_IFM_STATUS_MALFORMED},
         {"a parameter too few", body_of("ze_lsw_port_get_defvlan", [](auto &a) { a.pop_back(); }),
          ZE_IFM_STATUS_BAD_ARGUMENTS},
-        {"an output a byte short (a structure's, a buffer's alike)", body_of("ze_lsw_port_get_defvlan", [](auto &a) { a[1].pop_back(); }),
+        {"an output a byte short", body_of("ze_lsw_port_get_defvlan", [](auto &a) { a[1].pop_back(); }),
          ZE_IFM_STATUS_BAD_ARGUMENTS},
         {"a byte string's length past its buffer",
          body_of("ze_hlp_sdk_dp_cmdtype", [](auto &a) { put_u32(a[2], zesh::api::kByteStringMax + 1); }),

@@ -93,7 +93,8 @@ TEST(Connect, ADaemonOutOfReachOrLostEndsTheShellWithStatusThree) {
 
     for (const char *json : {"", "--json"}) {
         zetest::FakeDaemon vanishing({described_then_gone()});
-        std::vector<std::string> args{"--connect", vanishing.socket(), "-c", "echo before; chip_get_version; echo after"};
+        std::vector<std::string> args{"--connect", vanishing.socket(), "-c",
+                                      "echo before; chip_get_version; echo after"};
         if (*json) args.insert(args.begin(), json);
         const zetest::Ran lost = run_zesh(args);
         EXPECT_EQ(lost.status, 3);

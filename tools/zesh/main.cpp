@@ -75,7 +75,8 @@ int run(zesh::Shell &sh, const char *script, const char *file, const char *repla
     if (!isatty(STDIN_FILENO)) return run_stream(sh, std::cin) ? 0 : 1;
 
     std::cout << "zesh: switch adapter shell on " << (simulator ? "the simulator" : "a device node")
-              << (daemon ? std::string(", in the daemon at ") + daemon : std::string()) << ". 'help' lists the commands.\n";
+              << (daemon ? std::string(", in the daemon at ") + daemon : std::string())
+              << ". 'help' lists the commands.\n";
     zesh::line_input_init();
     while (!sh.quit_requested()) {
         auto line = zesh::read_line("zesh> ");

@@ -38,7 +38,8 @@ bool RemoteExecutor::connect(const std::string &path, std::string &why) {
     }
     const bool described = a.status == ZE_IFM_STATUS_OK && a.data_len >= 2;
     simulator_ = described && a.data[1] == ZE_IFM_BACKEND_SIMULATOR;
-    if (!described) why = "the daemon at " + path + " refused: " + std::string(reinterpret_cast<const char *>(a.text), a.text_len);
+    if (!described)
+        why = "the daemon at " + path + " refused: " + std::string(reinterpret_cast<const char *>(a.text), a.text_len);
     ze_ifm_client_answer_free(&a);
     return described;
 }
