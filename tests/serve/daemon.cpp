@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
@@ -35,6 +36,7 @@ int connect_to(const std::string &path) {
 pid_t spawn(const std::vector<std::string> &args, const std::string &out_file, const std::string &err_file) {
     pid_t pid = fork();
     if (pid != 0) return pid;
+    prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test that dies (a sanitizer's abort) leaves no daemon behind
     dup2(open(out_file.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600), STDOUT_FILENO);
     dup2(open(err_file.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600), STDERR_FILENO);
     std::vector<char *> argv{const_cast<char *>("zesh")};
