@@ -16,13 +16,7 @@ struct ze_ifm_client {
     uint32_t tag; /* of the last request */
 };
 
-/* An answer as read from the daemon; owns `frame`. */
-typedef struct {
-    uint8_t *frame;
-    uint32_t status, result, reply_len;
-    const uint8_t *data, *text;
-    uint32_t data_len, text_len;
-} answer;
+typedef ze_ifm_answer answer;
 
 static int send_all(int fd, const uint8_t *p, size_t n) {
     while (n) {
@@ -63,6 +57,7 @@ static uint32_t read_answer(ze_ifm_client *c, uint16_t kind, answer *a) {
     int ours = got == (kind | ZE_IFM_ANSWER_BIT) && ze_ifm_get32(h + 8) == c->tag;
     if (ze_ifm_get16(h + 4) != ZE_IFM_VERSION || (!ours && got != ZE_IFM_ANSWER_BIT))
         return ZE_IFM_CLIENT_ERR_ANSWER;
+    a->flags = ze_ifm_get32(h + 12);
     a->status = ze_ifm_get32(b);
     a->result = ze_ifm_get32(b + 4);
     a->reply_len = ze_ifm_get32(b + 8);
@@ -122,6 +117,18 @@ static uint32_t finish(answer *a, char **printed) {
     return r;
 }
 
+uint32_t ze_ifm_client_request_on(ze_ifm_client *c, uint16_t kind, const void *body, uint32_t len,
+                                  ze_ifm_answer *a) {
+    if (!c || !a || (len && !body)) return ZE_IFM_CLIENT_ERR_ARGUMENT;
+    return exchange(c, kind, body, len, NULL, 0, a);
+}
+
+void ze_ifm_client_answer_free(ze_ifm_answer *a) {
+    if (!a) return;
+    free(a->frame);
+    a->frame = NULL;
+}
+
 ze_ifm_client *ze_ifm_client_open(const char *path) {
     if (!path) path = getenv(ZE_IFM_SOCKET_ENV);
     if (!path || !*path) path = ZE_IFM_SOCKET_DEFAULT;
@@ -178,6 +185,47 @@ uint32_t ze_ifm_client_line_on(ze_ifm_client *c, const char *line, char **printe
     answer a;
     uint32_t r = exchange(c, ZE_IFM_KIND_LINE, line, strlen(line), NULL, 0, &a);
     return r ? r : finish(&a, printed);
+}
+
+uint32_t ze_ifm_client_api_on(ze_ifm_client *c, const char *name, uint32_t count, void *const *params,
+                              const uint32_t *sizes, char **printed) {
+    if (printed) *printed = NULL;
+    size_t name_len = name ? strlen(name) : 0, size = 4 + name_len;
+    if (!c || !name || name_len > ZE_IFM_NAME_MAX || count > 0xffffu || (count && (!params || !sizes)))
+        return ZE_IFM_CLIENT_ERR_ARGUMENT;
+    for (uint32_t i = 0; i < count; ++i) {
+        if (sizes[i] && !params[i]) return ZE_IFM_CLIENT_ERR_ARGUMENT;
+        size += 4 + (size_t)sizes[i];
+        if (size > ZE_IFM_FRAME_MAX) return ZE_IFM_CLIENT_ERR_ARGUMENT;
+    }
+    uint8_t *body = malloc(size), *p = body;
+    if (!body) return ZE_IFM_CLIENT_ERR_MEMORY;
+    ze_ifm_put16(p, (uint16_t)name_len);
+    ze_ifm_put16(p + 2, (uint16_t)count);
+    memcpy(p + 4, name, name_len);
+    p += 4 + name_len;
+    for (uint32_t i = 0; i < count; ++i) {
+        ze_ifm_put32(p, sizes[i]);
+        if (sizes[i]) memcpy(p + 4, params[i], sizes[i]);
+        p += 4 + sizes[i];
+    }
+    answer a;
+    uint32_t r = exchange(c, ZE_IFM_KIND_API, body, size, NULL, 0, &a);
+    free(body);
+    if (r) return r;
+    /* The parameters come back as they went, each of its own size; none is
+     * written unless all are there. */
+    size_t back = 0;
+    for (uint32_t i = 0; a.status == ZE_IFM_STATUS_OK && i < count; ++i) {
+        if (a.data_len - back < 4 || ze_ifm_get32(a.data + back) != sizes[i] || a.data_len - back - 4 < sizes[i]) {
+            ze_ifm_client_answer_free(&a);
+            return ZE_IFM_CLIENT_ERR_ANSWER;
+        }
+        back += 4 + (size_t)sizes[i];
+    }
+    for (uint32_t i = 0, at = 4; a.status == ZE_IFM_STATUS_OK && i < count; at += 4 + sizes[i++])
+        if (sizes[i]) memcpy(params[i], a.data + at, sizes[i]);
+    return finish(&a, printed);
 }
 
 /* ---- The process's own connection ---------------------------------------- */

@@ -155,7 +155,7 @@ TEST_F(ShellTest, FormattingDependsOnlyOnTheOutcome) {
         zesh::Outcome run_command(const std::string &n, std::span<const uint8_t> r, uint32_t len) override {
             seen.emplace_back(n, len);
             zesh::Outcome o = inner.run_command(n, r, len);
-            return zesh::Outcome{o.code, o.reply_len, o.reply, {}, o.printed};
+            return zesh::Outcome{o.code, o.reply_len, o.reply, {}, o.printed, {}};
         }
         zesh::Outcome call_api(const std::string &n, std::vector<zesh::Bytes> a) override {
             seen.emplace_back(n, static_cast<uint32_t>(a.size()));

@@ -69,6 +69,34 @@ ZE_IFM_CLIENT_API uint32_t ze_ifm_client_call_on(ze_ifm_client *c, const char *n
  * code. */
 ZE_IFM_CLIENT_API uint32_t ze_ifm_client_line_on(ze_ifm_client *c, const char *line, char **printed);
 
+/*
+ * Calls exported API function `name` with `count` parameters: params[i]
+ * holds sizes[i] bytes, the parameter's exact size (the describe-API answer
+ * gives it: a value, or what a pointer points at), in the daemon's byte
+ * order. On return each holds what the function left there. Returns the
+ * function's result, a transport code, or the daemon's refusal (parameters
+ * that do not fit: ZE_IFM_CLIENT_ERR_STATUS(ZE_IFM_STATUS_BAD_ARGUMENTS)).
+ */
+ZE_IFM_CLIENT_API uint32_t ze_ifm_client_api_on(ze_ifm_client *c, const char *name, uint32_t count,
+                                                void *const *params, const uint32_t *sizes, char **printed);
+
+/* An answer as it came: any request kind, for callers that build bodies of
+ * their own (see ze_ifm_wire.h). `data` and `text` (not NUL-terminated)
+ * point into the frame, which ze_ifm_client_answer_free releases. */
+typedef struct {
+    uint32_t status, result, reply_len, flags;
+    const uint8_t *data, *text;
+    uint32_t data_len, text_len;
+    uint8_t *frame;
+} ze_ifm_answer;
+
+/* Sends one request of `kind` with `len` body bytes and reads its answer;
+ * returns 0 with the answer filled in (whatever its status), or a transport
+ * code with nothing to free. */
+ZE_IFM_CLIENT_API uint32_t ze_ifm_client_request_on(ze_ifm_client *c, uint16_t kind, const void *body,
+                                                    uint32_t len, ze_ifm_answer *a);
+ZE_IFM_CLIENT_API void ze_ifm_client_answer_free(ze_ifm_answer *a);
+
 /* The process's own connection, opened by the first call (or by connect)
  * and opened again by the next call after it broke. */
 ZE_IFM_CLIENT_API uint32_t ze_ifm_client_connect(const char *path);

@@ -22,23 +22,35 @@
  * daemon can always skip a frame it does not understand and say why.
  *
  * Request bodies:
- *   ZE_IFM_KIND_CALL      u32 request length N, u16 name length K,
- *                         u16 0, the command name (K bytes, with or
- *                         without the "ze_adapter_cli_" prefix), the
- *                         request bytes (N <= ZE_IFM_REQUEST_MAX)
+ *   ZE_IFM_KIND_CALL      u32 request length N, u16 name length K, u16
+ *                         further bytes E, the command name (K bytes,
+ *                         with or without the "ze_adapter_cli_" prefix),
+ *                         N request bytes, then E bytes more of the
+ *                         handler's buffer (N + E <= ZE_IFM_REQUEST_MAX).
+ *                         E is 0 but for a request sent deliberately
+ *                         shorter than the bytes it fills: the handlers
+ *                         that do not check their length read them.
  *   ZE_IFM_KIND_DESCRIBE  empty
  *   ZE_IFM_KIND_LINE      a shell line (commands separated by ';'), as
  *                         text without a terminating NUL
- *   ZE_IFM_KIND_API       reserved: an exported API function by name with
- *                         typed arguments
+ *   ZE_IFM_KIND_API       an exported API function by name: u16 name
+ *                         length K, u16 parameter count P, the name, then
+ *                         per parameter u32 size S and S bytes: exactly
+ *                         the parameter's size as the API description
+ *                         gives it, in the daemon's byte order (a pointer
+ *                         parameter: what it points at)
+ *   ZE_IFM_KIND_DESCRIBE_API  empty
  *
  * Answer body (one answer per request, in the order of the requests):
  *   0   u32 status       ZE_IFM_STATUS_*
- *   4   u32 result       the handler's result code (CALL); 0 when every
- *                        command of the line could run, 1 otherwise (LINE)
+ *   4   u32 result       the handler's or the function's result code
+ *                        (CALL, API); 0 when every command of the line
+ *                        could run, 1 otherwise (LINE)
  *   8   u32 reply length as the handler wrote it, or ZE_IFM_NO_REPLY
  *   12  u32 data length  D: the reply bytes up to the reply length (CALL),
- *                        the description (DESCRIBE)
+ *                        every parameter after the call, encoded as in
+ *                        the request (API), the description (DESCRIBE,
+ *                        DESCRIBE_API)
  *   16  u32 text length  T: everything the request printed, or the reason
  *                        of a refusal when status is not ZE_IFM_STATUS_OK
  *   20  D data bytes, then T text bytes
@@ -55,6 +67,18 @@
  *   out, u8 length and the value it then takes, written as the shell reads
  *   it; then u16 result count and per result code: u32 code, u8 name
  *   length, its symbolic name, u8 meaning length, its meaning.
+ *
+ * Describe API data (the exported functions the API kind calls):
+ *   u16 function count; per function: u8 name length, name, u8 area
+ *   length, area, u8 summary length, its one-line summary, u32 flags
+ *   (ZE_IFM_API_*), u16 length and the text of `help api NAME`, u8
+ *   parameter count, and per parameter: u8 name length, name, u8 role
+ *   (ZE_IFM_ROLE_*), u8 type of a value or element (ZE_IFM_FIELD_*), u32
+ *   element size, u16 element count, u8 index of the parameter it goes
+ *   with (a byte string's length, an output buffer's size; 0xff: none),
+ *   u8 field count of a structure (0: a plain value), and per field: u8
+ *   name length, name, u8 type, u16 offset within the element, u16 size.
+ *   A parameter's size is its element size times its count.
  */
 #ifndef ZE_IFM_WIRE_H
 #define ZE_IFM_WIRE_H
@@ -83,12 +107,11 @@
 #define ZE_IFM_KIND_CALL 1u
 #define ZE_IFM_KIND_DESCRIBE 2u
 #define ZE_IFM_KIND_LINE 3u
-#define ZE_IFM_KIND_API 4u /* reserved */
+#define ZE_IFM_KIND_API 4u
+#define ZE_IFM_KIND_DESCRIBE_API 5u
 #define ZE_IFM_ANSWER_BIT 0x8000u
 
-/* Request flags. */
-#define ZE_IFM_FLAG_JSON 0x1u /* reserved: answer text as JSON */
-/* Answer flags. */
+/* Answer flags (a request carries none in version 1). */
 #define ZE_IFM_ANSWER_TRUNCATED 0x1u
 
 #define ZE_IFM_STATUS_OK 0u
@@ -100,6 +123,7 @@
 #define ZE_IFM_STATUS_NOT_PERMITTED 6u    /* credentials or board-write refusal */
 #define ZE_IFM_STATUS_UNSUPPORTED_FLAGS 7u
 #define ZE_IFM_STATUS_BUSY 8u             /* too many clients connected */
+#define ZE_IFM_STATUS_BAD_ARGUMENTS 9u    /* API parameters that do not fit the function */
 
 #define ZE_IFM_NO_REPLY 0xffffffffu /* the handler wrote no reply length */
 
@@ -120,6 +144,22 @@
 #define ZE_IFM_DIR_IN 0u
 #define ZE_IFM_DIR_OUT 1u     /* written by the command */
 #define ZE_IFM_DIR_INOUT 2u
+
+/* How an API parameter travels. */
+#define ZE_IFM_ROLE_VALUE 0u     /* by value */
+#define ZE_IFM_ROLE_IN 1u        /* pointer to what the function reads */
+#define ZE_IFM_ROLE_OUT 2u       /* pointer to what it writes */
+#define ZE_IFM_ROLE_INOUT 3u     /* pointer to what it reads and writes */
+#define ZE_IFM_ROLE_BYTES 4u     /* byte string (read and written); its length is another parameter */
+#define ZE_IFM_ROLE_LENGTH 5u    /* a byte string's length: at most the string's size */
+#define ZE_IFM_ROLE_OUT_BYTES 6u /* output buffer; its size is another parameter, at most the buffer's */
+#define ZE_IFM_ROLE_ADDRESS 7u   /* integer holding the address of a byte string */
+/* What an API function reaches. */
+#define ZE_IFM_API_NO_DRIVER 0x1u    /* exchanges nothing with the driver or the kernel */
+#define ZE_IFM_API_KERNEL_CALL 0x2u  /* reaches named kernel calls */
+#define ZE_IFM_API_DP_LIBRARY 0x4u   /* reaches the datapath API library */
+#define ZE_IFM_API_WRITES_BOARD 0x8u /* writes board memory: refused unless the client is allowed */
+#define ZE_IFM_API_RAW_ANSWER 0x10u  /* returns the driver's or kernel's answer unchanged */
 
 /* Big-endian access to wire integers. */
 static inline void ze_ifm_put16(uint8_t *p, uint16_t v) {

@@ -1,5 +1,6 @@
-"""A daemon of the build tree for each test: $ZESH, or the dev build's zesh."""
+"""Daemons of the build tree for the tests: $ZESH, or the dev build's zesh."""
 
+import contextlib
 import os
 import pathlib
 import socket
@@ -14,6 +15,8 @@ sys.path.insert(0, str(ROOT / "python"))
 
 from ze_adapter import Client  # noqa: E402
 
+ZESH = os.environ.get("ZESH", str(ROOT / "build/dev/tools/zesh/zesh"))
+
 
 def _wait_for(path):
     deadline = time.monotonic() + 5
@@ -27,19 +30,26 @@ def _wait_for(path):
     raise TimeoutError("no daemon on %s" % path)
 
 
-@pytest.fixture
-def daemon(tmp_path):
-    """The socket path of a fresh daemon on the simulator."""
-    zesh = os.environ.get("ZESH", str(ROOT / "build/dev/tools/zesh/zesh"))
-    path = tmp_path / "ifm.sock"
-    with open(tmp_path / "log", "w") as log:
-        proc = subprocess.Popen([zesh, "serve", "--socket", str(path), "--foreground"], stderr=log)
+@contextlib.contextmanager
+def running_daemon(directory, *options):
+    """The socket path of a fresh daemon on the simulator, in `directory`;
+    it must stop cleanly."""
+    directory.mkdir(parents=True, exist_ok=True)
+    path = directory / "ifm.sock"
+    with open(directory / "log", "w") as log:
+        proc = subprocess.Popen([ZESH, "serve", "--socket", str(path), "--foreground", *options], stderr=log)
     try:
         _wait_for(path)
         yield str(path)
     finally:
         proc.terminate()
-        assert proc.wait(timeout=10) == 0, (tmp_path / "log").read_text()
+        assert proc.wait(timeout=10) == 0, (directory / "log").read_text()
+
+
+@pytest.fixture
+def daemon(tmp_path):
+    with running_daemon(tmp_path) as path:
+        yield path
 
 
 @pytest.fixture

@@ -5,6 +5,7 @@ import os
 import socket
 
 from . import wire
+from .api import describe_functions
 from .commands import PREFIX, Description
 
 
@@ -16,18 +17,15 @@ class DaemonError(Exception):
         self.status, self.message = status, message
 
 
-class Result:
-    """What a command answered: its result code, the code's symbolic name
-    and meaning (None for a code the library does not name), the reply
-    fields (those within the reply length), the reply bytes and everything
-    it printed."""
+class _Coded:
+    """A result code, the code's symbolic name and meaning (None for a code
+    the library does not name) and everything the request printed."""
 
-    def __init__(self, command, answer, description):
+    _shown = ""  # the member that the representation shows beside the code
+
+    def __init__(self, answer, description):
         self.code = answer.result
         self.name, self.meaning = description.results.get(answer.result, (None, None))
-        self.reply_len = None if answer.reply_len == wire.NO_REPLY else answer.reply_len
-        self.reply_bytes = answer.data
-        self.reply = command.unpack_reply(answer.data, description.byte_order) if command else {}
         self.printed = answer.text
         self.truncated = answer.truncated
 
@@ -36,7 +34,27 @@ class Result:
         return self.code == 0
 
     def __repr__(self):
-        return "Result(code=%#x %s, reply=%r, printed=%r)" % (self.code, self.name, self.reply, self.printed)
+        return "%s(code=%#x %s, %s=%r, printed=%r)" % (
+            type(self).__name__,
+            self.code,
+            self.name,
+            self._shown,
+            getattr(self, self._shown),
+            self.printed,
+        )
+
+
+class Result(_Coded):
+    """What a command answered: the result code, the reply fields (those
+    within the reply length), the reply bytes and what it printed."""
+
+    _shown = "reply"
+
+    def __init__(self, command, answer, description):
+        super().__init__(answer, description)
+        self.reply_len = None if answer.reply_len == wire.NO_REPLY else answer.reply_len
+        self.reply_bytes = answer.data
+        self.reply = command.unpack_reply(answer.data, description.byte_order) if command else {}
 
 
 class LineResult:
@@ -50,6 +68,53 @@ class LineResult:
 
     def __repr__(self):
         return "LineResult(ok=%r, printed=%r)" % (self.ok, self.printed)
+
+
+class ApiResult(_Coded):
+    """What an exported function returned: the result code, its outputs by
+    parameter name (numbers, addresses as text, structures as dicts, arrays
+    as lists, byte strings as bytes), each parameter's bytes after the call
+    and what it printed."""
+
+    _shown = "outputs"
+
+    def __init__(self, function, answer, description):
+        super().__init__(answer, description)
+        self.args = wire.api_args(answer.data, len(function.params))
+        self.outputs = function.outputs(description.byte_order, self.args)
+
+
+class Api:
+    """One method per exported API function of the daemon's library, whose
+    keyword arguments are the function's input parameters."""
+
+    def __init__(self, client, functions):
+        self._client = client
+        self.functions = functions
+        for function in functions.values():
+            setattr(self, function.name, self._method(function))
+
+    def _method(self, function):
+        def run(**values):
+            return self.call(function.name, function.pack(self._client.description.byte_order, values))
+
+        run.__name__ = function.name
+        run.__doc__ = function.doc
+        run.__signature__ = inspect.Signature(
+            [
+                inspect.Parameter(
+                    p.name, inspect.Parameter.KEYWORD_ONLY, default=inspect.Parameter.empty if p.required else None
+                )
+                for p in function.inputs()
+            ]
+        )
+        return run
+
+    def call(self, name, args):
+        """Calls a function with each parameter's raw bytes (its exact size,
+        in the daemon's byte order)."""
+        answer = self._client._request(wire.KIND_API, wire.api_body(name, args))
+        return ApiResult(self.functions[name], answer, self._client.description)
 
 
 class Client:
@@ -66,6 +131,7 @@ class Client:
         self.commands = self.description.commands
         for command in self.commands.values():
             setattr(self, command.name, self._method(command))
+        self.api = Api(self, describe_functions(self._request(wire.KIND_DESCRIBE_API, b"").data))
 
     def _method(self, command):
         def run(**fields):

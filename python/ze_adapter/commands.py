@@ -145,7 +145,9 @@ class Command:
         return "\n".join(lines)
 
 
-class _Reader:
+class Reader:
+    """Reads a describe answer: big-endian integers and texts after their length."""
+
     def __init__(self, data):
         self.data, self.at = data, 0
 
@@ -154,8 +156,8 @@ class _Reader:
         self.at += struct.calcsize(">" + fmt)
         return values if len(values) > 1 else values[0]
 
-    def text(self):
-        n = self.take("B")
+    def text(self, length="B"):
+        n = self.take(length)
         self.at += n
         return self.data[self.at - n : self.at].decode()
 
@@ -165,7 +167,7 @@ class Description:
     code meanings."""
 
     def __init__(self, data):
-        r = _Reader(data)
+        r = Reader(data)
         order, backend, count, self.request_buffer_size = r.take("BBHI")
         self.byte_order = "<" if order == wire.ORDER_LITTLE else ">"
         self.simulator = backend == wire.BACKEND_SIMULATOR

@@ -17,9 +17,9 @@ KIND_CALL = 1
 KIND_DESCRIBE = 2
 KIND_LINE = 3
 KIND_API = 4
+KIND_DESCRIBE_API = 5
 ANSWER_BIT = 0x8000
 
-FLAG_JSON = 0x1
 ANSWER_TRUNCATED = 0x1
 
 STATUS_OK = 0
@@ -31,6 +31,7 @@ STATUS_WRONG_VERSION = 5
 STATUS_NOT_PERMITTED = 6
 STATUS_UNSUPPORTED_FLAGS = 7
 STATUS_BUSY = 8
+STATUS_BAD_ARGUMENTS = 9
 
 NO_REPLY = 0xFFFFFFFF
 
@@ -52,12 +53,28 @@ DIR_IN = 0
 DIR_OUT = 1
 DIR_INOUT = 2
 
+ROLE_VALUE = 0
+ROLE_IN = 1
+ROLE_OUT = 2
+ROLE_INOUT = 3
+ROLE_BYTES = 4
+ROLE_LENGTH = 5
+ROLE_OUT_BYTES = 6
+ROLE_ADDRESS = 7
+API_NO_DRIVER = 0x1
+API_KERNEL_CALL = 0x2
+API_DP_LIBRARY = 0x4
+API_WRITES_BOARD = 0x8
+API_RAW_ANSWER = 0x10
+
 SOCKET_ENV = "ZE_IFM_SOCKET"
 SOCKET_DEFAULT = "/run/ze_ifm.sock"
 
 HEADER = struct.Struct(">IHHII")
 ANSWER = struct.Struct(">IIIII")
 CALL = struct.Struct(">IHH")
+API = struct.Struct(">HH")
+SIZE = struct.Struct(">I")
 
 
 class ProtocolError(Exception):
@@ -72,6 +89,26 @@ def frame(kind, body, tag, flags=0):
 def call_body(name, request):
     name = name.encode()
     return CALL.pack(len(request), len(name), 0) + name + bytes(request)
+
+
+def api_body(name, args):
+    """An API call: the function's name, then each parameter's bytes."""
+    name = name.encode()
+    return API.pack(len(name), len(args)) + name + b"".join(SIZE.pack(len(a)) + bytes(a) for a in args)
+
+
+def api_args(data, count):
+    """The `count` parameters an API answer carries, as a list of bytes."""
+    args, at = [], 0
+    for _ in range(count):
+        if at + 4 > len(data) or at + 4 + SIZE.unpack_from(data, at)[0] > len(data):
+            raise ProtocolError("API answer shorter than its parameters")
+        (size,) = SIZE.unpack_from(data, at)
+        args.append(data[at + 4 : at + 4 + size])
+        at += 4 + size
+    if at != len(data):
+        raise ProtocolError("API answer longer than its parameters")
+    return args
 
 
 class Answer:

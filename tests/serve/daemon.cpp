@@ -1,7 +1,12 @@
 #include "daemon.h"
 
+#include <gtest/gtest.h>
+
+#include "serve/protocol.h"
+
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
@@ -11,6 +16,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <thread>
 
@@ -27,12 +33,12 @@ int connect_to(const std::string &path) {
     return -1;
 }
 
-pid_t spawn(const std::vector<std::string> &args, const std::string &log) {
+pid_t spawn(const std::vector<std::string> &args, const std::string &out_file, const std::string &err_file) {
     pid_t pid = fork();
     if (pid != 0) return pid;
-    int out = open(log.empty() ? "/dev/null" : log.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
-    dup2(out, STDOUT_FILENO);
-    dup2(out, STDERR_FILENO);
+    prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test that dies (a sanitizer's abort) leaves no daemon behind
+    dup2(open(out_file.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600), STDOUT_FILENO);
+    dup2(open(err_file.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600), STDERR_FILENO);
     std::vector<char *> argv{const_cast<char *>("zesh")};
     for (const std::string &a : args) argv.push_back(const_cast<char *>(a.c_str()));
     argv.push_back(nullptr);
@@ -69,7 +75,7 @@ std::string fresh_dir() {
 Daemon::Daemon(const std::vector<std::string> &args) : dir_(fresh_dir()), socket_(dir_ + "/ifm.sock") {
     std::vector<std::string> all{"serve", "--socket", socket_, "--foreground"};
     all.insert(all.end(), args.begin(), args.end());
-    pid_ = spawn(all, dir_ + "/log");
+    pid_ = spawn(all, dir_ + "/log", dir_ + "/log");
     wait_for_socket(socket_);
 }
 
@@ -86,14 +92,69 @@ int Daemon::stop(int sig) {
     return status;
 }
 
-std::string Daemon::log() const {
-    std::ifstream in(dir_ + "/log");
+FakeDaemon::FakeDaemon(std::vector<std::vector<uint8_t>> answers)
+    : dir_(fresh_dir()), socket_(dir_ + "/fake.sock") {
+    sockaddr_un addr{};
+    addr.sun_family = AF_UNIX;
+    std::strncpy(addr.sun_path, socket_.c_str(), sizeof addr.sun_path - 1);
+    fd_ = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    EXPECT_EQ(bind(fd_, reinterpret_cast<sockaddr *>(&addr), sizeof addr), 0);
+    listen(fd_, 1);
+    peer_ = std::thread([this, answers = std::move(answers)] {
+        int c = accept(fd_, nullptr, nullptr);
+        uint8_t request[256];
+        for (const auto &a : answers)
+            if (recv(c, request, sizeof request, 0) <= 0 || send(c, a.data(), a.size(), MSG_NOSIGNAL) < 0) break;
+        close(c);
+    });
+}
+
+FakeDaemon::~FakeDaemon() {
+    shutdown(fd_, SHUT_RDWR);  // a peer still waiting for a client gives up
+    peer_.join();
+    close(fd_);
+    std::system(("rm -rf '" + dir_ + "'").c_str());
+}
+
+std::string Daemon::log() const { return file_text(dir_ + "/log"); }
+
+std::string file_text(const std::string &path) {
+    std::ifstream in(path);
     std::stringstream s;
     s << in.rdbuf();
     return s.str();
 }
 
-int run_zesh(const std::vector<std::string> &args) { return exit_status(spawn(args, "")); }
+Ran run_zesh(const std::vector<std::string> &args) {
+    const std::string dir = fresh_dir();
+    Ran r;
+    r.status = exit_status(spawn(args, dir + "/out", dir + "/err"));
+    r.out = file_text(dir + "/out");
+    r.err = file_text(dir + "/err");
+    std::system(("rm -rf '" + dir + "'").c_str());
+    return r;
+}
+
+uint32_t run_line(ze_ifm_client *c, const std::string &text, std::string *printed) {
+    char *out = nullptr;
+    const uint32_t r = ze_ifm_client_line_on(c, text.c_str(), &out);
+    if (printed) *printed = out ? out : "";
+    ze_ifm_client_free(out);
+    return r;
+}
+
+uint32_t run_line(const std::string &socket, const std::string &text, std::string *printed) {
+    ze_ifm_client *c = ze_ifm_client_open(socket.c_str());
+    if (!c) return ZE_IFM_CLIENT_ERR_CONNECT;
+    const uint32_t r = run_line(c, text, printed);
+    ze_ifm_client_close(c);
+    return r;
+}
+
+std::string without_addresses(const std::string &s) {
+    static const std::regex kAddress(R"(\[0x[0-9a-f]+\] :)");
+    return std::regex_replace(s, kAddress, "[address] :");
+}
 
 RawClient::RawClient(const std::string &path) : fd_(connect_to(path)) {
     timeval tv{5, 0};
@@ -152,12 +213,7 @@ std::vector<uint8_t> frame(uint16_t kind, const std::vector<uint8_t> &body, uint
 }
 
 std::vector<uint8_t> call_body(const std::string &name, const std::vector<uint8_t> &request) {
-    std::vector<uint8_t> b(8);
-    ze_ifm_put32(&b[0], static_cast<uint32_t>(request.size()));
-    ze_ifm_put16(&b[4], static_cast<uint16_t>(name.size()));
-    b.insert(b.end(), name.begin(), name.end());
-    b.insert(b.end(), request.begin(), request.end());
-    return b;
+    return zesh::serve::call_body(name, request, static_cast<uint32_t>(request.size()));
 }
 
 std::vector<uint8_t> text_body(const std::string &text) { return {text.begin(), text.end()}; }

@@ -6,9 +6,10 @@
 
 #include <cstdint>
 #include <string>
+#include <thread>
 #include <vector>
 
-#include "ze_ifm_wire.h"
+#include "ze_ifm_client.h"
 
 namespace zetest {
 
@@ -32,10 +33,42 @@ private:
     pid_t pid_ = -1;
 };
 
-// Runs `zesh ARGS...` to its end; returns the exit status.
-int run_zesh(const std::vector<std::string> &args);
+// A peer on a socket of its own that answers each request it reads with
+// the next of `answers` (sent as given), then closes the connection: a
+// daemon that breaks the wire format, or one that is lost.
+class FakeDaemon {
+public:
+    explicit FakeDaemon(std::vector<std::vector<uint8_t>> answers);
+    ~FakeDaemon();
+    FakeDaemon(const FakeDaemon &) = delete;
+    FakeDaemon &operator=(const FakeDaemon &) = delete;
+    const std::string &socket() const { return socket_; }
+
+private:
+    std::string dir_, socket_;
+    int fd_ = -1;
+    std::thread peer_;
+};
+
+// What `zesh ARGS...` did, run to its end.
+struct Ran {
+    int status = -2;  // -1: killed by a signal
+    std::string out, err;
+};
+Ran run_zesh(const std::vector<std::string> &args);
 // A fresh directory under the system's temporary directory.
 std::string fresh_dir();
+// Reads a whole file.
+std::string file_text(const std::string &path);
+
+// Runs a shell line in the daemon: the status (0: every command could
+// run, 1: one could not, or a transport code), and what it printed.
+uint32_t run_line(ze_ifm_client *c, const std::string &text, std::string *printed = nullptr);
+uint32_t run_line(const std::string &socket, const std::string &text, std::string *printed = nullptr);
+
+// The IP rule commands dump their request with its buffer's address, which
+// differs between processes.
+std::string without_addresses(const std::string &s);
 
 struct RawAnswer {
     uint16_t kind = 0;

@@ -1,12 +1,7 @@
 // The C client library: the process connection and its socket choice, the
-// caller's reply room, and answers from a daemon that breaks the format.
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
-
+// caller's reply room, exported functions by name, and answers from a
+// daemon that breaks the format.
 #include <cstdlib>
-#include <cstring>
-#include <thread>
 
 #include "daemon.h"
 #include "test_support.h"
@@ -57,23 +52,34 @@ TEST(CClient, RepliesFitTheRoomGivenAndRefusalsSayWhy) {
     ze_ifm_client_close(c);
 }
 
+TEST(CClient, CallsAnExportedFunctionWithEachParametersBytes) {
+    zetest::Daemon d;
+    ze_ifm_client *c = ze_ifm_client_open(d.socket().c_str());
+    ASSERT_NE(c, nullptr);
+    uint32_t port = 5;
+    uint16_t vlan = 0;
+    void *params[] = {&port, &vlan};
+    uint32_t sizes[] = {4, 2};
+    EXPECT_EQ(ze_ifm_client_api_on(c, "ze_lsw_port_get_defvlan", 2, params, sizes, nullptr), 0u);
+    EXPECT_EQ(vlan, 1u);
+    // A parameter of another size is refused, and nothing is written back.
+    uint32_t wide = 7;
+    params[1] = &wide;
+    sizes[1] = sizeof wide;
+    char *why = nullptr;
+    EXPECT_EQ(ze_ifm_client_api_on(c, "ze_lsw_port_get_defvlan", 2, params, sizes, &why),
+              ZE_IFM_CLIENT_ERR_STATUS(ZE_IFM_STATUS_BAD_ARGUMENTS));
+    EXPECT_STREQ(why, "vlan of ze_lsw_port_get_defvlan is 2 bytes, not 4");
+    EXPECT_EQ(wide, 7u);
+    ze_ifm_client_free(why);
+    ze_ifm_client_close(c);
+}
+
 // The answer a client gets from a peer that sends `bytes` to its first
 // request (tag 1).
 uint32_t answered_with(const std::vector<uint8_t> &bytes) {
-    const std::string dir = zetest::fresh_dir(), path = dir + "/fake.sock";
-    sockaddr_un addr{};
-    addr.sun_family = AF_UNIX;
-    std::strncpy(addr.sun_path, path.c_str(), sizeof addr.sun_path - 1);
-    int fd = socket(AF_UNIX, SOCK_STREAM, 0);
-    EXPECT_EQ(bind(fd, reinterpret_cast<sockaddr *>(&addr), sizeof addr), 0);
-    listen(fd, 1);
-    std::thread peer([&] {
-        int c = accept(fd, nullptr, nullptr);
-        uint8_t request[256];
-        if (recv(c, request, sizeof request, 0) > 0) (void)!send(c, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        close(c);
-    });
-    ze_ifm_client *client = ze_ifm_client_open(path.c_str());
+    zetest::FakeDaemon fake({bytes});
+    ze_ifm_client *client = ze_ifm_client_open(fake.socket().c_str());
     uint8_t reply[4];
     uint32_t len = 4;
     char *printed = nullptr;
@@ -81,9 +87,6 @@ uint32_t answered_with(const std::vector<uint8_t> &bytes) {
     EXPECT_EQ(printed == nullptr, r != 0);
     ze_ifm_client_free(printed);
     ze_ifm_client_close(client);
-    peer.join();
-    close(fd);
-    std::system(("rm -rf '" + dir + "'").c_str());
     return r;
 }
 

@@ -33,14 +33,6 @@ struct Gem {
 };
 static_assert(sizeof(Mapping) == 24 && sizeof(Gem) == 8);
 
-std::string run_line(ze_ifm_client *c, const std::string &line) {
-    char *text = nullptr;
-    EXPECT_EQ(ze_ifm_client_line_on(c, line.c_str(), &text), 0u) << line;
-    std::string s = text ? text : "";
-    ze_ifm_client_free(text);
-    return s;
-}
-
 // One client's share of the load: a mapping of its own VLAN, a GEM port on
 // the sfid it got, the GEM port read back, the mapping removed. Every
 // answer must carry what this client's own request asked for.
@@ -117,9 +109,9 @@ TEST_F(Clients, EightConcurrentClientsKeepTheShadowTablesConsistent) {
     const std::string check = "flow_diagnose 1; flow_add_mapping key_mask=2 vlan=7 dir=0";
     std::ostringstream fresh;
     zesh::Shell(fresh).run_line(check);
-    ze_ifm_client *c = ze_ifm_client_open(daemon.socket().c_str());
-    EXPECT_EQ(run_line(c, check), fresh.str());
-    ze_ifm_client_close(c);
+    std::string listed;
+    EXPECT_EQ(zetest::run_line(daemon.socket(), check, &listed), 0u);
+    EXPECT_EQ(listed, fresh.str());
 }
 
 TEST_F(Clients, AClientKilledMidFrameCostsTheOthersNothing) {
@@ -172,7 +164,11 @@ TEST(ClientsApart, AClientThatNeverReadsCannotHoldUpTheOthers) {
     }
     wait_until_idle(daemon.pid());
     ze_ifm_client *c = ze_ifm_client_open(daemon.socket().c_str());
-    for (int i = 0; i < 50; ++i) EXPECT_EQ(run_line(c, "echo " + std::to_string(i)), std::to_string(i) + "\n");
+    for (int i = 0; i < 50; ++i) {
+        std::string echoed;
+        EXPECT_EQ(zetest::run_line(c, "echo " + std::to_string(i), &echoed), 0u);
+        EXPECT_EQ(echoed, std::to_string(i) + "\n");
+    }
     ze_ifm_client_close(c);
     // Its answers are 11 kB each: all of them would be 44 MB.
     EXPECT_LT(resident_kb(daemon.pid()) - before, 8 * 1024);

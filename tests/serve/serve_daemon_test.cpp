@@ -19,6 +19,7 @@
 namespace {
 
 using zetest::Daemon;
+using zetest::run_line;
 using zetest::run_zesh;
 
 bool exists(const std::string &path) {
@@ -50,31 +51,20 @@ bool removed(const std::string &path) {
     return !exists(path);
 }
 
-uint32_t line(const std::string &socket, const std::string &text, std::string *printed = nullptr) {
-    ze_ifm_client *c = ze_ifm_client_open(socket.c_str());
-    if (!c) return ZE_IFM_CLIENT_ERR_CONNECT;
-    char *out = nullptr;
-    uint32_t r = ze_ifm_client_line_on(c, text.c_str(), &out);
-    if (printed) *printed = out ? out : "";
-    ze_ifm_client_free(out);
-    ze_ifm_client_close(c);
-    return r;
-}
-
 TEST(DaemonLife, ReplacesAStaleSocketKeepsALiveOneAndDetaches) {
     const std::string dir = zetest::fresh_dir(), path = dir + "/ifm.sock";
     make_stale_socket(path);
-    ASSERT_EQ(run_zesh({"serve", "--socket", path}), 0);  // detaches once it listens
+    ASSERT_EQ(run_zesh({"serve", "--socket", path}).status, 0);  // detaches once it listens
     const pid_t pid = daemon_pid(path);
     ASSERT_GT(pid, 0);
     EXPECT_NE(pid, getpid());
 
-    EXPECT_EQ(run_zesh({"serve", "--socket", path, "--foreground"}), 1);
-    EXPECT_EQ(line(path, "echo still here"), 0u);
+    EXPECT_EQ(run_zesh({"serve", "--socket", path, "--foreground"}).status, 1);
+    EXPECT_EQ(run_line(path, "echo still here"), 0u);
 
     const std::string file = dir + "/plain";
     std::ofstream(file) << "keep";
-    EXPECT_EQ(run_zesh({"serve", "--socket", file, "--foreground"}), 1);
+    EXPECT_EQ(run_zesh({"serve", "--socket", file, "--foreground"}).status, 1);
     EXPECT_TRUE(exists(file));
 
     kill(pid, SIGTERM);
@@ -85,7 +75,7 @@ TEST(DaemonLife, ReplacesAStaleSocketKeepsALiveOneAndDetaches) {
 TEST(DaemonLife, TermAndIntStopCleanly) {
     for (int sig : {SIGTERM, SIGINT}) {
         Daemon d;
-        ASSERT_EQ(line(d.socket(), "chip_get_upmode"), 0u);
+        ASSERT_EQ(run_line(d.socket(), "chip_get_upmode"), 0u);
         EXPECT_EQ(d.stop(sig), 0) << d.log();
         EXPECT_FALSE(exists(d.socket()));
     }
@@ -106,14 +96,14 @@ TEST(DaemonAccess, SocketFileTakesTheModeAndGroup) {
 TEST(DaemonAccess, RefusesClientsWhoseUidAndGidAreNotAllowed) {
     Daemon d({"--allow-uid", "4242", "--allow-gid", "4242"});
     std::string why;
-    EXPECT_EQ(line(d.socket(), "echo hi", &why), ZE_IFM_CLIENT_ERR_STATUS(ZE_IFM_STATUS_NOT_PERMITTED));
+    EXPECT_EQ(run_line(d.socket(), "echo hi", &why), ZE_IFM_CLIENT_ERR_STATUS(ZE_IFM_STATUS_NOT_PERMITTED));
     EXPECT_NE(why.find("may not connect"), std::string::npos) << why;
     EXPECT_EQ(d.stop(), 0);
     EXPECT_NE(d.log().find("uid " + std::to_string(getuid()) + " gid " + std::to_string(getgid()) + " refused"),
               std::string::npos);
 
     Daemon by_gid({"--allow-uid", "4242", "--allow-gid", std::to_string(getgid())});
-    EXPECT_EQ(line(by_gid.socket(), "echo hi"), 0u);
+    EXPECT_EQ(run_line(by_gid.socket(), "echo hi"), 0u);
     EXPECT_EQ(by_gid.stop(), 0);
 }
 
@@ -121,14 +111,14 @@ TEST(DaemonAccess, BoardWritesNeedTheirOwnAllowance) {
     const std::string writes[] = {"api ze_board_write_phymem 0x100 1", "echo x; api ze_board_write_phymem 0 0"};
     Daemon plain;
     for (const std::string &w : writes)
-        EXPECT_EQ(line(plain.socket(), w), ZE_IFM_CLIENT_ERR_STATUS(ZE_IFM_STATUS_NOT_PERMITTED)) << w;
+        EXPECT_EQ(run_line(plain.socket(), w), ZE_IFM_CLIENT_ERR_STATUS(ZE_IFM_STATUS_NOT_PERMITTED)) << w;
     std::string out;
-    EXPECT_EQ(line(plain.socket(), "echo api ze_board_write_phymem", &out), 0u);
+    EXPECT_EQ(run_line(plain.socket(), "echo api ze_board_write_phymem", &out), 0u);
     EXPECT_EQ(out, "api ze_board_write_phymem\n");
     EXPECT_EQ(plain.stop(), 0);
 
     Daemon allowed({"--allow-board-write", std::to_string(getuid())});
-    for (const std::string &w : writes) EXPECT_EQ(line(allowed.socket(), w), 0u) << w;
+    for (const std::string &w : writes) EXPECT_EQ(run_line(allowed.socket(), w), 0u) << w;
     EXPECT_EQ(allowed.stop(), 0);
 }
 

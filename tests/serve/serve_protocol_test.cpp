@@ -6,6 +6,7 @@
 
 #include "command_table.h"
 #include "daemon.h"
+#include "serve/protocol.h"
 #include "test_support.h"
 
 namespace {
@@ -14,6 +15,12 @@ using zetest::RawAnswer;
 using zetest::RawClient;
 
 const std::vector<uint8_t> kVersionRequest(4, 0);
+std::vector<uint8_t> filled_past_the_buffer() {
+    std::vector<uint8_t> b(ZE_IFM_REQUEST_MAX + 1, 0);
+    b.back() = 1;
+    return b;
+}
+const std::vector<uint8_t> kFlowDiagnosePastIt = filled_past_the_buffer();
 
 class Protocol : public ::testing::Test {
 protected:
@@ -62,7 +69,10 @@ TEST_F(Protocol, LengthsUpToTheLimitAreAnsweredAndPastItCloseTheConnection) {
     for (uint32_t size = ZE_IFM_HEADER_SIZE; size <= ZE_IFM_FRAME_MAX; size += 4093) {
         std::vector<uint8_t> body(size - ZE_IFM_HEADER_SIZE);
         for (auto &b : body) b = static_cast<uint8_t>(rng());
-        if (body.size() >= 8) ze_ifm_put32(body.data(), static_cast<uint32_t>(body.size()));
+        if (body.size() >= 8) {
+            ze_ifm_put32(body.data(), static_cast<uint32_t>(body.size()));
+            ze_ifm_put16(&body[6], 0);  // no further bytes
+        }
         exchange(c, zetest::frame(ZE_IFM_KIND_CALL, body));
         EXPECT_EQ(last.status, body.size() > ZE_IFM_REQUEST_MAX ? ZE_IFM_STATUS_TOO_LARGE : ZE_IFM_STATUS_MALFORMED)
             << size;
@@ -90,9 +100,9 @@ TEST_F(Protocol, WrongVersionUnknownKindFlagsAndCommandsAreRefused) {
     } cases[] = {
         {zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body("chip_get_version", kVersionRequest), 1, 2),
          ZE_IFM_STATUS_WRONG_VERSION},
-        {zetest::frame(ZE_IFM_KIND_API, {}), ZE_IFM_STATUS_UNKNOWN_KIND},
+        {zetest::frame(ZE_IFM_KIND_DESCRIBE_API + 1, {}), ZE_IFM_STATUS_UNKNOWN_KIND},
         {zetest::frame(0x7fff, {}), ZE_IFM_STATUS_UNKNOWN_KIND},
-        {zetest::frame(ZE_IFM_KIND_LINE, zetest::text_body("echo x"), 1, ZE_IFM_VERSION, ZE_IFM_FLAG_JSON),
+        {zetest::frame(ZE_IFM_KIND_LINE, zetest::text_body("echo x"), 1, ZE_IFM_VERSION, 1),
          ZE_IFM_STATUS_UNSUPPORTED_FLAGS},
         {zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body("no_such_command", {})), ZE_IFM_STATUS_UNKNOWN_COMMAND},
         {zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body(std::string("chip_get_version\0x", 18), kVersionRequest)),
@@ -100,6 +110,10 @@ TEST_F(Protocol, WrongVersionUnknownKindFlagsAndCommandsAreRefused) {
         {zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body("emac_get_llid", kVersionRequest)),
          ZE_IFM_STATUS_UNKNOWN_COMMAND},
         {zetest::frame(ZE_IFM_KIND_DESCRIBE, {1}), ZE_IFM_STATUS_MALFORMED},
+        {zetest::frame(ZE_IFM_KIND_DESCRIBE_API, {1}), ZE_IFM_STATUS_MALFORMED},
+        // A request within the buffer, with further bytes past it.
+        {zetest::frame(ZE_IFM_KIND_CALL, zesh::serve::call_body("flow_diagnose", kFlowDiagnosePastIt, 0)),
+         ZE_IFM_STATUS_TOO_LARGE},
         {zetest::frame(ZE_IFM_KIND_LINE, {'e', 0, 'x'}), ZE_IFM_STATUS_MALFORMED},
     };
     RawClient c(daemon.socket());

@@ -2,8 +2,6 @@
 // in-process: result, reply length, reply bytes and printed text. Both
 // sides start from a fresh library and see the same sequence of requests,
 // each on a freshly reset simulator.
-#include <regex>
-
 #include "command_table.h"
 #include "daemon.h"
 #include "request.h"
@@ -21,16 +19,9 @@ struct Outcome {
     std::string printed;
 };
 
-// The IP rule commands dump their request with its buffer's address, which
-// differs between the two processes.
-std::string without_addresses(const std::string &s) {
-    static const std::regex kAddress(R"(\[0x[0-9a-f]+\] :)");
-    return std::regex_replace(s, kAddress, "[address] :");
-}
-
 bool operator==(const Outcome &a, const Outcome &b) {
     return a.result == b.result && a.reply_len == b.reply_len && a.reply == b.reply &&
-           without_addresses(a.printed) == without_addresses(b.printed);
+           zetest::without_addresses(a.printed) == zetest::without_addresses(b.printed);
 }
 
 void PrintTo(const Outcome &o, std::ostream *os) {

@@ -179,6 +179,43 @@ bool fill_args(const Row &row, std::span<const std::string> words, std::vector<B
     return true;
 }
 
+bool args_fit(const Row &row, const std::vector<Bytes> &args, std::string &why) {
+    const std::vector<Bytes> sizes = empty_args(row);
+    if (args.size() != sizes.size()) {
+        why = std::string(row.name) + " takes " + std::to_string(sizes.size()) + " parameters, not " +
+              std::to_string(args.size());
+        return false;
+    }
+    for (size_t i = 0; i < args.size(); ++i) {
+        const Param &p = row.params[i];
+        if (args[i].size() != sizes[i].size()) {
+            why = std::string(p.name) + " of " + row.name + " is " + std::to_string(sizes[i].size()) +
+                  " bytes, not " + std::to_string(args[i].size());
+            return false;
+        }
+    }
+    for (size_t i = 0; i < args.size(); ++i) {
+        const Param &p = row.params[i];
+        // A byte string's length word, or an output buffer's size word, is
+        // at most the buffer it measures.
+        size_t word = args.size(), buffer = args.size();
+        if (p.role == Role::Length) word = i, buffer = index_of(row, p.of);
+        if (p.role == Role::OutBytes) word = index_of(row, p.of), buffer = i;
+        if (word < args.size() && buffer < args.size() && u32_at(args[word]) > args[buffer].size()) {
+            why = std::string(row.params[word].name) + " = " + std::to_string(u32_at(args[word])) +
+                  " is more than the " + std::to_string(args[buffer].size()) + " bytes of " +
+                  row.params[buffer].name;
+            return false;
+        }
+        if (p.field == FieldType::Text && std::memchr(args[i].data(), 0, args[i].size()) == nullptr) {
+            why = std::string(p.name) + " of " + row.name + " is not terminated within its " +
+                  std::to_string(args[i].size()) + " bytes";
+            return false;
+        }
+    }
+    return true;
+}
+
 uint32_t invoke(const Row &row, std::vector<Bytes> &args) {
     std::vector<uint8_t *> ptrs;
     for (Bytes &b : args) ptrs.push_back(b.data());

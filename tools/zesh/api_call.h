@@ -30,7 +30,15 @@ std::vector<Bytes> empty_args(const Row &row);
 bool fill_args(const Row &row, std::span<const std::string> words, std::vector<Bytes> &args,
                std::string &error);
 
-// Calls the function with the arguments (written back with the outputs).
+// Whether `args` fit the function: one per parameter, each exactly the
+// parameter's size, every byte string's length and output buffer's size
+// within its buffer, every text terminated inside its parameter. A function
+// given arguments that fit stays inside them, whatever their values; `why`
+// names the first that does not.
+bool args_fit(const Row &row, const std::vector<Bytes> &args, std::string &why);
+
+// Calls the function with the arguments (written back with the outputs);
+// they must fit.
 uint32_t invoke(const Row &row, std::vector<Bytes> &args);
 
 // The outputs after the call: "  name = value" lines, or JSON members.

@@ -60,13 +60,11 @@ Outcome LocalExecutor::run_command(const std::string &name, std::span<const uint
 Outcome LocalExecutor::call_api(const std::string &name, std::vector<Bytes> args) {
     Outcome o;
     const api::Row *row = api::find(name);
-    std::vector<Bytes> expected = row ? api::empty_args(*row) : std::vector<Bytes>{};
-    bool fits = row && args.size() == expected.size();
-    for (size_t i = 0; fits && i < args.size(); ++i) fits = args[i].size() == expected[i].size();
-    if (!fits) {  // the function's parameters are fixed: nothing else is passed to it
-        o.code = ZE_HOST_ERR_UNSUPPORTED;
+    if (!row) {
+        o.refused = "no exported function '" + name + "'";
         return o;
     }
+    if (!api::args_fit(*row, args, o.refused)) return o;
     {
         Capture c(capture_, o.printed);
         o.code = api::invoke(*row, args);

@@ -20,6 +20,7 @@ struct Outcome {
     Bytes reply;                   // commands: the buffer up to the reply length
     std::vector<Bytes> args;       // API calls: every parameter's bytes after the call
     std::string printed;           // what the call printed on the console
+    std::string refused;           // not run: why the executor refused it
 };
 
 class Executor {
@@ -33,6 +34,9 @@ public:
     virtual Outcome call_api(const std::string &name, std::vector<Bytes> args) = 0;
     // A built-in that looks into the library's host: "sim ...", "trace ...".
     virtual Outcome run_builtin(const std::vector<std::string> &words) = 0;
+    // True once the executor can run nothing more (its daemon is gone): the
+    // outcome of the request that found out carries nothing.
+    virtual bool lost() const { return false; }
 };
 
 // Runs everything in this process: the registered handlers, the API

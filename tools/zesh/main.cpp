@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iostream>
 
+#include "connect/remote_executor.h"
 #include "line_input.h"
 #include "replay.h"
 #include "serve/serve.h"
@@ -19,7 +20,9 @@ namespace {
 void usage() {
     std::cout << "usage: zesh [--json] [--device NODE] [--trace | --trace-file F] [--record F]\n"
                  "            [-c 'CMD; CMD ...' | FILE]\n"
+                 "       zesh --connect PATH [--json] [-c 'CMD; CMD ...' | FILE]\n"
                  "       zesh [--device NODE] [--record F] [-c 'CMD; ...'] replay RECORDING\n"
+                 "       zesh serve --socket PATH [OPTIONS]   ('zesh serve --help' lists them)\n"
                  "  no argument: interactive (a non-terminal input is read as a script)\n"
                  "  --json         print each outcome as one JSON object per line\n"
                  "  --device NODE  send datapath commands to NODE instead of the simulator\n"
@@ -27,9 +30,15 @@ void usage() {
                  "  --trace-file F append every trace record to file F\n"
                  "  --record F     write every driver command, kernel call and datapath library\n"
                  "                 call to F, one line each\n"
+                 "  --connect PATH run everything in the daemon listening on PATH (help and echo\n"
+                 "                 stay here); exit 3 when it cannot be reached or is lost\n"
                  "  replay R       re-issue recording R (after the -c commands, e.g. 'sim load S')\n"
-                 "                 and compare every answer: exit 0 identical, 1 differs, 2 unusable\n";
+                 "                 and compare every answer: exit 0 identical, 1 differs, 2 unusable\n"
+                 "  serve          host the library for other processes on a Unix-domain socket\n";
 }
+
+// The exit status when the daemon of --connect cannot be reached or is lost.
+constexpr int kDaemonLost = 3;
 
 // Runs one input line; a recording notes it first, so that a reader finds
 // the calls of each command under it.
@@ -46,55 +55,10 @@ bool run_stream(zesh::Shell &sh, std::istream &in) {
     return ok;
 }
 
-}  // namespace
-
-int main(int argc, char **argv) {
-    if (argc > 1 && !std::strcmp(argv[1], "serve")) return zesh::serve_main(argc - 2, argv + 2);
-    const char *script = nullptr, *file = nullptr, *replay_file = nullptr;
-    bool json = false;
-    for (int i = 1; i < argc; ++i) {
-        if (!std::strcmp(argv[i], "--json")) {
-            json = true;
-        } else if (!std::strcmp(argv[i], "-c") && i + 1 < argc) {
-            script = argv[++i];
-        } else if (!std::strcmp(argv[i], "--device") && i + 1 < argc) {
-            ze_host_use_device(argv[++i]);
-        } else if (!std::strcmp(argv[i], "--trace")) {
-            ze_host_trace_echo(stderr);
-        } else if (!std::strcmp(argv[i], "--trace-file") && i + 1 < argc) {
-            FILE *f = std::fopen(argv[++i], "a");
-            if (!f) {
-                std::cerr << "zesh: cannot open " << argv[i] << "\n";
-                return 2;
-            }
-            std::setvbuf(f, nullptr, _IOLBF, 0);
-            ze_host_trace_echo(f);
-        } else if (!std::strcmp(argv[i], "--record") && i + 1 < argc) {
-            if (ze_host_record_start(argv[++i])) {
-                std::cerr << "zesh: cannot write " << argv[i] << "\n";
-                return 2;
-            }
-        } else if (!std::strcmp(argv[i], "replay") && i + 1 < argc && !file && !replay_file) {
-            replay_file = argv[++i];
-        } else if (!std::strcmp(argv[i], "-h") || !std::strcmp(argv[i], "--help")) {
-            usage();
-            return 0;
-        } else if (argv[i][0] != '-' && !file && !replay_file) {
-            file = argv[i];
-        } else {
-            usage();
-            return 2;
-        }
-    }
-
-    zesh::Shell sh(std::cout);
-    sh.set_json(json);
-    uint32_t r = ze_adapter_cli_init();
-    if (r) {
-        std::cerr << "\nzesh: command registration failed with 0x" << std::hex << r << "\n";
-        return 1;
-    }
-
+// Runs the replay, the -c line, the script file, the script on standard
+// input or the interactive session; returns the exit status.
+int run(zesh::Shell &sh, const char *script, const char *file, const char *replay_file, bool simulator,
+        const char *daemon) {
     if (replay_file) {
         if (script && !run_noted(sh, script)) return zesh::kReplayUnusable;
         return zesh::replay(std::cout, replay_file);
@@ -110,8 +74,8 @@ int main(int argc, char **argv) {
     }
     if (!isatty(STDIN_FILENO)) return run_stream(sh, std::cin) ? 0 : 1;
 
-    std::cout << "zesh: switch adapter shell on "
-              << (ze_host_backend_is_simulator() ? "the simulator" : "a device node")
+    std::cout << "zesh: switch adapter shell on " << (simulator ? "the simulator" : "a device node")
+              << (daemon ? std::string(", in the daemon at ") + daemon : std::string())
               << ". 'help' lists the commands.\n";
     zesh::line_input_init();
     while (!sh.quit_requested()) {
@@ -120,4 +84,78 @@ int main(int argc, char **argv) {
         run_noted(sh, *line);
     }
     return 0;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    if (argc > 1 && !std::strcmp(argv[1], "serve")) return zesh::serve_main(argc - 2, argv + 2);
+    const char *script = nullptr, *file = nullptr, *replay_file = nullptr, *connect = nullptr;
+    bool json = false, host_option = false;
+    for (int i = 1; i < argc; ++i) {
+        if (!std::strcmp(argv[i], "--json")) {
+            json = true;
+        } else if (!std::strcmp(argv[i], "-c") && i + 1 < argc) {
+            script = argv[++i];
+        } else if (!std::strcmp(argv[i], "--connect") && i + 1 < argc) {
+            connect = argv[++i];
+        } else if (!std::strcmp(argv[i], "--device") && i + 1 < argc) {
+            ze_host_use_device(argv[++i]);
+            host_option = true;
+        } else if (!std::strcmp(argv[i], "--trace")) {
+            ze_host_trace_echo(stderr);
+            host_option = true;
+        } else if (!std::strcmp(argv[i], "--trace-file") && i + 1 < argc) {
+            FILE *f = std::fopen(argv[++i], "a");
+            if (!f) {
+                std::cerr << "zesh: cannot open " << argv[i] << "\n";
+                return 2;
+            }
+            std::setvbuf(f, nullptr, _IOLBF, 0);
+            ze_host_trace_echo(f);
+            host_option = true;
+        } else if (!std::strcmp(argv[i], "--record") && i + 1 < argc) {
+            if (ze_host_record_start(argv[++i])) {
+                std::cerr << "zesh: cannot write " << argv[i] << "\n";
+                return 2;
+            }
+            host_option = true;
+        } else if (!std::strcmp(argv[i], "replay") && i + 1 < argc && !file && !replay_file) {
+            replay_file = argv[++i];
+        } else if (!std::strcmp(argv[i], "-h") || !std::strcmp(argv[i], "--help")) {
+            usage();
+            return 0;
+        } else if (argv[i][0] != '-' && !file && !replay_file) {
+            file = argv[i];
+        } else {
+            usage();
+            return 2;
+        }
+    }
+    if (connect && (host_option || replay_file)) {
+        std::cerr << "zesh: with --connect the daemon hosts the library: --device, --trace, --record and\n"
+                     "      replay are its own ('zesh serve --help')\n";
+        return 2;
+    }
+
+    zesh::RemoteExecutor remote;
+    if (connect) {
+        std::string why;
+        if (!remote.connect(connect, why)) {
+            std::cerr << "zesh: " << why << "\n";
+            return kDaemonLost;
+        }
+    }
+    zesh::Shell sh(std::cout, connect ? &remote : nullptr);
+    sh.set_json(json);
+    if (uint32_t r = connect ? 0 : ze_adapter_cli_init()) {
+        std::cerr << "\nzesh: command registration failed with 0x" << std::hex << r << "\n";
+        return 1;
+    }
+    const bool simulator = connect ? remote.simulator() : ze_host_backend_is_simulator();
+    const int status = run(sh, script, file, replay_file, simulator, connect);
+    if (!remote.lost()) return status;
+    std::cout << std::flush;
+    std::cerr << "zesh: " << remote.why_lost() << "\n";
+    return kDaemonLost;
 }

@@ -101,6 +101,15 @@ std::vector<std::vector<std::string>> split_line(const std::string &line) {
     return cmds;
 }
 
+std::string quoted_line(const std::vector<std::string> &words) {
+    std::string line;
+    for (const std::string &w : words) {
+        const bool quote = w.empty() || w.find_first_of(" \t\r\n;#") != std::string::npos;
+        line += (line.empty() ? "" : " ") + (quote ? "\"" + w + "\"" : w);
+    }
+    return line;
+}
+
 Shell::Shell(std::ostream &out, Executor *executor)
     : out_(out),
       own_(executor ? nullptr : std::make_unique<LocalExecutor>(out)),
@@ -152,8 +161,20 @@ bool Shell::refuse(const std::string &input, const std::string &message) {
     return false;
 }
 
+// False when the request did not run: refused before it ran (reported as a
+// refused line is), or lost with its executor (the shell stops; whoever
+// made the executor says why).
+bool Shell::ran(const std::vector<std::string> &w, const Outcome &o) {
+    if (exec_.lost()) {
+        quit_ = true;
+        return false;
+    }
+    return o.refused.empty() || refuse(joined(w), o.refused);
+}
+
 bool Shell::run_builtin(const std::vector<std::string> &w) {
     Outcome o = exec_.run_builtin(w);
+    if (!ran(w, o)) return false;
     const bool sub = w[0] == "sim" && w.size() > 1;  // "sim log", "sim fail": the sub-command names it
     return local({sub ? w[0] + " " + w[1] : w[0]}, o.code == 0, o.printed);
 }
@@ -184,6 +205,7 @@ bool Shell::run_command(const std::vector<std::string> &w) {
     if (!req.fill(std::span(w).subspan(1), error)) return refuse(joined(w), std::string(row->name) + ": " + error);
     Outcome o = exec_.run_command(kCliPrefix + std::string(row->name), std::span(req.data(), kRequestBufferSize),
                                   req.length());
+    if (!ran(w, o)) return false;
     const bool replied = o.reply_len != kReplyUnset;
     result("command", row->name, o, replied ? format_reply(*row, o.reply) : "",
            "reply\":" + (replied ? json_reply(*row, o.reply) : std::string("null")));
@@ -205,6 +227,7 @@ bool Shell::run_api(const std::vector<std::string> &w) {
     if (!api::fill_args(*row, std::span(w).subspan(2), args, error))
         return refuse(joined(w), std::string(row->name) + ": " + error);
     Outcome o = exec_.call_api(row->name, std::move(args));
+    if (!ran(w, o)) return false;
     result("api", row->name, o, api::format_outputs(*row, o.args), "outputs\":" + api::json_outputs(*row, o.args));
     return true;
 }

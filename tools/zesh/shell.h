@@ -42,6 +42,7 @@ private:
     bool run_builtin(const std::vector<std::string> &words);
     bool local(const std::vector<std::string> &words, bool ok, const std::string &text);
     bool refuse(const std::string &input, const std::string &message);
+    bool ran(const std::vector<std::string> &words, const Outcome &o);
     void result(const char *kind, const std::string &name, const Outcome &o, const std::string &fields,
                 const std::string &json_fields);
 
@@ -54,6 +55,9 @@ private:
 
 // Splits a line into commands and words, honouring double quotes.
 std::vector<std::vector<std::string>> split_line(const std::string &line);
+// The words as a line that split_line gives back as the same words (a word
+// that is empty or holds a blank, ';' or '#' is quoted).
+std::string quoted_line(const std::vector<std::string> &words);
 
 // The meaning and the symbolic name of a result code, as the shell prints them.
 const char *result_meaning(uint32_t code);

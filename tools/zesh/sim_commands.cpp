@@ -196,15 +196,6 @@ bool sim_state_file(std::ostream &out, const std::vector<std::string> &args) {
     return false;
 }
 
-// A replayed sub-command goes into the recording as the line that ran it.
-void record_sim_line(const std::vector<std::string> &words) {
-    std::string line;
-    for (const std::string &w : words) {
-        const bool quote = w.find_first_of(" \t;#") != std::string::npos;
-        line += (line.empty() ? "" : " ") + (quote ? "\"" + w + "\"" : w);
-    }
-    ze_host_record_text(line.c_str());
-}
 
 const SimCommand kSimCommands[] = {
     {"reset", "reset                  forget every stored block, the log and the faults", sim_reset, true},
@@ -235,7 +226,8 @@ bool run_sim(std::ostream &out, const std::vector<std::string> &words) {
     for (const SimCommand &s : kSimCommands) {
         if (words[1] != s.name) continue;
         if (!need_simulator(out) || !s.run(out, words)) return false;
-        if (s.replayed) record_sim_line(words);
+        // A replay runs it again from the line that ran it.
+        if (s.replayed) ze_host_record_text(quoted_line(words).c_str());
         return true;
     }
     out << "sim: no sub-command '" << words[1] << "'\n";

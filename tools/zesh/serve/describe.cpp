@@ -10,28 +10,6 @@
 #include "ze_host.h"
 
 namespace zesh::serve {
-namespace {
-
-class Writer {
-public:
-    void u8(uint32_t v) { out_.push_back(static_cast<uint8_t>(v)); }
-    void u16(uint32_t v) {
-        out_.resize(out_.size() + 2);
-        ze_ifm_put16(&out_[out_.size() - 2], static_cast<uint16_t>(v));
-    }
-    void u32(uint32_t v) {
-        out_.resize(out_.size() + 4);
-        ze_ifm_put32(&out_[out_.size() - 4], v);
-    }
-    void text(std::string_view s) {
-        u8(static_cast<uint32_t>(s.size()));
-        out_.insert(out_.end(), s.begin(), s.end());
-    }
-    std::vector<uint8_t> take() { return std::move(out_); }
-
-private:
-    std::vector<uint8_t> out_;
-};
 
 uint32_t wire_type(FieldType t) {
     switch (t) {
@@ -48,11 +26,13 @@ uint32_t wire_type(FieldType t) {
     return ZE_IFM_FIELD_BYTES;
 }
 
+namespace {
+
 uint32_t wire_dir(Dir d) {
     return d == Dir::In ? ZE_IFM_DIR_IN : d == Dir::Out ? ZE_IFM_DIR_OUT : ZE_IFM_DIR_INOUT;
 }
 
-void command(Writer &w, const char *family, const CommandSpec &c) {
+void command(BodyWriter &w, const char *family, const CommandSpec &c) {
     w.text(c.name);
     w.text(family);
     w.text(c.summary);
@@ -89,7 +69,7 @@ std::vector<uint32_t> named_codes() {
 }  // namespace
 
 std::vector<uint8_t> describe_commands() {
-    Writer w;
+    BodyWriter w;
     w.u8(std::endian::native == std::endian::big ? ZE_IFM_ORDER_BIG : ZE_IFM_ORDER_LITTLE);
     w.u8(ze_host_backend_is_simulator() ? ZE_IFM_BACKEND_SIMULATOR : ZE_IFM_BACKEND_DEVICE);
     uint32_t count = 0;

@@ -14,14 +14,16 @@ namespace zesh::serve {
 const char *const kServeUsage =
     "usage: zesh serve --socket PATH [--device NODE] [--mode 0660] [--group G]\n"
     "                  [--allow-uid U,...] [--allow-gid G,...] [--allow-board-write U,...]\n"
-    "                  [--foreground] [--syslog]\n"
+    "                  [--record FILE] [--foreground] [--syslog]\n"
     "  serves the registered commands to other processes on a Unix-domain socket\n"
     "  --socket PATH        the socket (a stale one is replaced, a live one kept)\n"
     "  --device NODE        send datapath commands to NODE instead of the simulator\n"
     "  --mode M, --group G  permissions and group of the socket file (default 0660)\n"
     "  --allow-uid, --allow-gid  who may connect (default: this uid and root; the\n"
     "                       socket's group when --group is given)\n"
-    "  --allow-board-write U,...  users whose lines may write board memory\n"
+    "  --allow-board-write U,...  users who may call functions that write board memory\n"
+    "  --record FILE        record every driver command, kernel call and datapath\n"
+    "                       library call that any client's requests make\n"
     "  --foreground         do not detach\n"
     "  --syslog             log to syslog instead of standard error\n";
 
@@ -91,6 +93,8 @@ std::optional<Options> parse_options(int argc, char **argv, std::string &error) 
             o.socket = value;
         } else if (opt == "--device") {
             o.device = value;
+        } else if (opt == "--record") {
+            o.record = value;
         } else if (opt == "--mode") {
             ok = number(value, v, 8) && v <= 07777;
             o.mode = static_cast<mode_t>(v);

@@ -17,6 +17,7 @@ struct Options {
     std::vector<uid_t> allow_uid;     // default: the daemon's own uid and root
     std::vector<gid_t> allow_gid;     // default: the socket's group, if given
     std::vector<uid_t> board_writers; // uids allowed to write board memory
+    std::string record;               // the recording of every client's calls, or empty
     bool foreground = false;
     bool syslog = false;
 };

@@ -1,5 +1,7 @@
 #include "protocol.h"
 
+#include <algorithm>
+
 namespace zesh::serve {
 
 Framing next_frame(std::span<const uint8_t> in, uint32_t &size) {
@@ -50,6 +52,47 @@ void encode(const Answer &a, std::vector<uint8_t> &out) {
     ze_ifm_put32(p + 16, static_cast<uint32_t>(a.text.size()));
     out.insert(out.end(), a.data.begin(), a.data.end());
     out.insert(out.end(), a.text.begin(), a.text.end());
+}
+
+Bytes call_body(std::string_view name, std::span<const uint8_t> buffer, uint32_t length) {
+    auto last = std::find_if(buffer.rbegin(), buffer.rend(), [](uint8_t b) { return b != 0; });
+    const size_t filled = static_cast<size_t>(buffer.rend() - last);
+    const size_t sent = std::max<size_t>(length, filled), held = std::min(sent, buffer.size());
+    BodyWriter b;
+    b.u32(length);
+    b.u16(static_cast<uint32_t>(name.size()));
+    b.u16(static_cast<uint32_t>(sent - length));
+    b.bytes(name);
+    b.bytes(buffer.first(held));
+    b.bytes(Bytes(sent - held, 0));  // a length past the buffer: zeros
+    return b.take();
+}
+
+Bytes api_body(std::string_view name, const std::vector<Bytes> &args) {
+    BodyWriter b;
+    b.u16(static_cast<uint32_t>(name.size()));
+    b.u16(static_cast<uint32_t>(args.size()));
+    b.bytes(name);
+    put_args(args, b);
+    return b.take();
+}
+
+void put_args(const std::vector<Bytes> &args, BodyWriter &out) {
+    for (const Bytes &a : args) {
+        out.u32(static_cast<uint32_t>(a.size()));
+        out.bytes(a);
+    }
+}
+
+bool take_args(std::span<const uint8_t> in, size_t count, std::vector<Bytes> &args) {
+    args.clear();
+    for (size_t i = 0; i < count; ++i) {
+        if (in.size() < 4 || in.size() - 4 < ze_ifm_get32(in.data())) return false;
+        const uint32_t size = ze_ifm_get32(in.data());
+        args.emplace_back(in.begin() + 4, in.begin() + 4 + size);
+        in = in.subspan(4 + size);
+    }
+    return in.empty();
 }
 
 }  // namespace zesh::serve

@@ -91,6 +91,10 @@ int serve_main(int argc, char **argv) {
         return 1;
     }
     if (!options->device.empty()) ze_host_use_device(options->device.c_str());
+    if (!options->record.empty() && ze_host_record_start(options->record.c_str())) {
+        serve::log_line("cannot write the recording %s", options->record.c_str());
+        return 1;
+    }
     if (uint32_t r = ze_adapter_cli_init()) {
         serve::log_line("command registration failed with 0x%08x", r);
         return 1;
@@ -113,6 +117,7 @@ int serve_main(int argc, char **argv) {
     serve::Dispatcher dispatcher(access);
     serve::Server(listener.fd(), access, dispatcher).run(wait_mask, g_stop);
     listener.remove();
+    ze_host_record_stop();
     serve::log_line("stopped");
     return 0;
 }
