@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "shell.h"
+#include "ze_sim.h"
 
 namespace zesh {
 
@@ -81,7 +82,7 @@ bool Request::set_field(const Field &f, const std::string &value, std::string &e
         error = "bad number '" + value + "' for " + f.name;
         return false;
     }
-    std::memcpy(p, &v, f.size);  // little-endian, as the request structures
+    zesim::store_field(p, f.size, static_cast<uint32_t>(v));
     return true;
 }
 
@@ -160,8 +161,7 @@ std::string Request::format_reply(uint32_t reply_len) const {
             std::snprintf(line, sizeof line, "  %s = %u.%u.%u.%u\n", f.name.c_str(), v >> 24,
                           v >> 16 & 0xff, v >> 8 & 0xff, v & 0xff);
         } else {
-            uint32_t v = 0;
-            std::memcpy(&v, p, f.size);
+            uint32_t v = zesim::load_field(p, f.size);
             if (f.type == FieldType::I32)
                 std::snprintf(line, sizeof line, "  %s = %d\n", f.name.c_str(), static_cast<int32_t>(v));
             else
