@@ -52,10 +52,15 @@ std::optional<std::string> read_line(const char *prompt) {
 void line_input_init(std::vector<std::string>) {}
 
 std::optional<std::string> read_line(const char *prompt) {
-    std::cout << prompt << std::flush;
     std::string s;
-    if (!std::getline(std::cin, s)) return std::nullopt;
-    return s;
+    for (;;) {
+        std::cout << prompt << std::flush;
+        if (!std::getline(std::cin, s)) return std::nullopt;
+        // Without line editing the cursor keys arrive as escape sequences;
+        // such a line is not a command.
+        if (s.find('\x1b') == std::string::npos) return s;
+        std::cout << "zesh: this build has no line editing (libedit); line ignored\n";
+    }
 }
 
 #endif
