@@ -63,6 +63,13 @@ uint32_t word_at(const zesim::Bytes &b, uint32_t offset) {
     return v;
 }
 
+zesim::Bytes native_words(std::initializer_list<uint32_t> words) {
+    zesim::Bytes b(4 * words.size());
+    uint8_t *p = b.data();
+    for (uint32_t w : words) p = static_cast<uint8_t *>(std::memcpy(p, &w, 4)) + 4;
+    return b;
+}
+
 std::vector<zesim::LogEntry> entries_of(uint32_t cmd) {
     std::vector<zesim::LogEntry> out;
     for (const zesim::LogEntry &e : zesim::log())
