@@ -42,10 +42,10 @@ uint32_t word_at(const zesim::Bytes &b, uint32_t offset);
 zesim::Bytes native_words(std::initializer_list<uint32_t> words);
 inline constexpr bool kBigEndian = std::endian::native == std::endian::big;
 
-// A test whose expectations are byte layouts of a little-endian processor
-// because the library itself places bytes in memory order (an EFC key value
-// copied into a key word, say): on a big-endian processor the words come out
-// otherwise, which the skip message names.
+// A test whose expectations are written as a little-endian processor's words
+// (byte and 16-bit fields packed into words, or the library placing bytes in
+// memory order, as an EFC key value copied into a key word): on a big-endian
+// processor it is skipped with a message naming what differs.
 #define ZE_LITTLE_ENDIAN_LAYOUT(what) \
     if (zetest::kBigEndian) GTEST_SKIP() << "big-endian processors see other words: " << what
 
