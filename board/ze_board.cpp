@@ -18,7 +18,7 @@ constexpr uint32_t kWritePayloadSize = kHeaderSize + kWriteLength;
 // with.
 constexpr uint32_t kReadSlack = 4;
 
-void put_u32(uint8_t *p, uint32_t off, uint32_t v) { ze_os_memcpy(p + off, &v, 4); }
+void put_u32(uint8_t *p, uint32_t off, uint32_t v) { __builtin_memcpy(p + off, &v, 4); }
 
 }  // namespace
 
@@ -49,7 +49,7 @@ uint32_t ze_board_read_phymem(uint32_t addr, uint32_t len, void *buf) {
     put_u32(p, 4, len);
     uint32_t outlen = 0;
     uint32_t r = ze_os_hlp_sendioctl("ze_kernel_misc_util_readphymem", p, kHeaderSize + len, &outlen);
-    if (r == 0) ze_os_memcpy(buf, p + kHeaderSize, len);
+    if (r == 0) __builtin_memcpy(buf, p + kHeaderSize, len);
     ze_os_free(p);
     return ze::traced(ZE_BOARD_SITE, r);
 }

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <algorithm>
 #include <array>
 #include <map>
 #include <unordered_map>
@@ -173,7 +174,10 @@ uint32_t ioctl_logged(uint32_t cmd, uintptr_t arg, const char *caller) {
 
     uint32_t r = injected(false, cmd, nullptr);
     if (r) {
-        // A failed open leaves no bracket; other failures change nothing.
+        // A failed open leaves no bracket and a failed close still ends
+        // one, as the driver's close releases the bracket whatever it
+        // reports; other failures change nothing.
+        if (cmd == kCmdClose) m.bracket_open = false;
     } else if (cmd == kCmdOpen) {
         r = m.bracket_open ? kErrBracket : 0;
         if (!r) m.bracket_open = true;
@@ -201,6 +205,12 @@ const BlockDesc *find_block(uint32_t id) {
 const ActionDesc *find_action(uint32_t id) {
     auto it = index().actions.find(id);
     return it == index().actions.end() ? nullptr : it->second;
+}
+
+int64_t block_length(uint32_t id) {
+    if (const BlockDesc *d = find_block(id)) return d->length;
+    if (const ActionDesc *a = find_action(id)) return a->length;
+    return -1;
 }
 
 uint32_t ioctl(uint32_t cmd, uintptr_t arg) { return ioctl_logged(cmd, arg, nullptr); }
@@ -302,6 +312,40 @@ std::vector<uint32_t> commands() {
     for (uint32_t id : raw_commands())
         if (id != kCmdOpen && id != kCmdClose) ids.push_back(id);
     return ids;
+}
+
+static uint32_t descriptor_id(const BlockDesc &d) { return d.get_id ? d.get_id : d.set_id; }
+
+State state() {
+    std::vector<std::pair<std::pair<uint32_t, Key>, const Bytes *>> sorted;
+    for (const auto &[key, bytes] : model().blocks)
+        sorted.push_back({{descriptor_id(*key.first), key.second}, &bytes});
+    std::sort(sorted.begin(), sorted.end(),
+              [](const auto &a, const auto &b) { return a.first < b.first; });
+    State s{model().bracket_open, {}};
+    for (const auto &[id_key, bytes] : sorted) s.blocks.emplace_back(id_key.first, *bytes);
+    return s;
+}
+
+bool set_state(const State &s, std::string &error) {
+    decltype(Model::blocks) blocks;
+    char msg[96];
+    for (const auto &[id, bytes] : s.blocks) {
+        const BlockDesc *d = find_block(id);
+        if (!d)
+            std::snprintf(msg, sizeof msg, "no block with command 0x%x", id);
+        else if (bytes.size() != d->length)
+            std::snprintf(msg, sizeof msg, "block 0x%x holds %zu bytes, not %u", id, bytes.size(), d->length);
+        else if (!blocks.try_emplace({d, key_of(*d, bytes.data())}, bytes).second)
+            std::snprintf(msg, sizeof msg, "block 0x%x appears twice with the same key", id);
+        else
+            continue;
+        error = msg;
+        return false;
+    }
+    model().blocks = std::move(blocks);
+    model().bracket_open = s.bracket_open;
+    return true;
 }
 
 void fail(uint32_t cmd, uint32_t code, uint32_t nth) {

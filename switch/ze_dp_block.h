@@ -101,11 +101,15 @@ constexpr uint32_t map_err(uint32_t r) {
     return r == 0 ? 0 : r == ZE_DRV_INVALID_PARAM ? ZE_ERR_PARAM : ZE_ERR_FAIL;
 }
 
+// ze_hlp_sdk_dp_cmdtype as the library itself calls it: directly, not
+// through the exported symbol's PLT entry.
+uint32_t dp_command(uint32_t cmd, void *block, uint32_t len, uint32_t *outlen);
+
 // One bracketed command, mapped. `len` is recorded only (it never reaches
 // the driver), so a caller may record a length other than the block's.
 inline uint32_t dp_send(uint32_t cmd, void *block, uint32_t len) {
     uint32_t outlen = 0;
-    return map_err(ze_hlp_sdk_dp_cmdtype(cmd, block, len, &outlen));
+    return map_err(dp_command(cmd, block, len, &outlen));
 }
 
 template <class L>

@@ -75,7 +75,7 @@ uint32_t read_bound_profile(uint32_t sfid, ze::Block<CarProfile> &prof) {
 }
 
 bool same_request(const ze_fcar_status_s &e, const CarWords &c, uint32_t gemport, uint32_t dir) {
-    return e.in_use == 1 && ze_os_memcmp(e.params, c.w, sizeof c.w) == 0 &&
+    return e.in_use == 1 && __builtin_memcmp(e.params, c.w, sizeof c.w) == 0 &&
            e.direction == dir && e.gemport == static_cast<uint16_t>(gemport);
 }
 
@@ -104,7 +104,7 @@ void save_fcar(uint32_t index, const CarWords &c, uint32_t gemport, uint32_t dir
     e.in_use = 1;
     e.gemport = static_cast<uint16_t>(gemport);
     e.direction = dir;
-    ze_os_memcpy(e.params, c.w, sizeof c.w);
+    __builtin_memcpy(e.params, c.w, sizeof c.w);
     ze::traced(ZE_SITE_AS("ze_lsw_car_inner_save_fcar"), ZE_OK);
 }
 

@@ -12,6 +12,20 @@ constexpr uint32_t kCmdClose = 1;
 constexpr uint32_t kPortBit[7] = {0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40};
 }  // namespace
 
+namespace ze {
+
+uint32_t dp_command(uint32_t cmd, void *block, uint32_t len, uint32_t *outlen) {
+    if (!outlen) return ZE_ERR_NULL_PTR;
+    *outlen = len;
+    uint32_t r = ze_os_hlp_sdk_dp(kCmdOpen, 0);
+    if (r) return r;
+    r = ze_os_hlp_sdk_dp(cmd, reinterpret_cast<uintptr_t>(block));
+    ze_os_hlp_sdk_dp(kCmdClose, 0);
+    return r;
+}
+
+}  // namespace ze
+
 extern "C" {
 
 const char *const g_phy_port[9] = {"eth0", "eth1", "eth2", "eth3", "eth4",
@@ -32,13 +46,7 @@ uint32_t ze_os_hlp_sdk_sysctl(uint32_t cmd, uintptr_t arg) {
 }
 
 uint32_t ze_hlp_sdk_dp_cmdtype(uint32_t cmd, void *block, uint32_t len, uint32_t *outlen) {
-    if (!outlen) return ZE_ERR_NULL_PTR;
-    *outlen = len;
-    uint32_t r = ze_os_hlp_sdk_dp(kCmdOpen, 0);
-    if (r) return r;
-    r = ze_os_hlp_sdk_dp(cmd, reinterpret_cast<uintptr_t>(block));
-    ze_os_hlp_sdk_dp(kCmdClose, 0);
-    return r;
+    return ze::dp_command(cmd, block, len, outlen);
 }
 
 // The checks trace only a rejection; the caller traces its own exit.
@@ -51,17 +59,20 @@ uint32_t ze_lsw_eth_port_check(uint32_t port) {
 }
 
 uint32_t ze_lsw_port_get_bitmap(uint32_t port, uint32_t *bitmap) {
+    if (!bitmap) return ZE_ERR_NULL_PTR;
     if (port < 7) *bitmap |= kPortBit[port];
     return ZE_OK;
 }
 
 uint32_t ze_lsw_bitmap_get_port(uint32_t bitmap, uint32_t *port) {
+    if (!port) return ZE_ERR_NULL_PTR;
     for (uint32_t p = 0; p < 7; ++p)
         if (bitmap == kPortBit[p]) *port = p;
     return ZE_OK;
 }
 
 uint32_t ze_lsw_flow_get_portbitmap(uint32_t flags, uint32_t port, uint32_t *bitmap) {
+    if (!bitmap) return ZE_ERR_NULL_PTR;
     if (flags & 1u) return ze_lsw_port_get_bitmap(port, bitmap);
     *bitmap |= ZE_PORT_BITMAP_ALL;
     return ZE_OK;

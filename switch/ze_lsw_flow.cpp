@@ -46,7 +46,7 @@ uint32_t ze_lsw_flow_save_mapping(uint32_t sfid, const ze_sfc_mapping_s *mapping
     if (sfid >= ZE_SFC_ENTRY_COUNT) return ze::traced(ZE_SITE, ZE_ERR_PARAM);
     if (!mapping) return ZE_ERR_NULL_PTR;
     st_sfcmapping[sfid].status = 1;
-    ze_os_memcpy(&st_sfcmapping[sfid].mapping, mapping, sizeof *mapping);
+    __builtin_memcpy(&st_sfcmapping[sfid].mapping, mapping, sizeof *mapping);
     return ZE_OK;
 }
 
@@ -61,7 +61,7 @@ uint32_t ze_lsw_flow_save_gemmap(uint32_t sfid, uint32_t tcont, uint32_t gemport
 
 uint32_t ze_lsw_sfc_get_gemmapping(uint32_t sfid, ze_sfc_shadow_s *entry) {
     if (sfid >= ZE_SFC_ENTRY_COUNT) return ZE_ERR_PARAM;
-    ze_os_memcpy(entry, &st_sfcmapping[sfid], sizeof *entry);
+    __builtin_memcpy(entry, &st_sfcmapping[sfid], sizeof *entry);
     return ZE_OK;
 }
 
@@ -72,7 +72,7 @@ uint32_t ze_lsw_flow_get_gemmap_by_vlan(uint32_t vlan, uint16_t *gemport, uint16
         if (e.status == 1 && e.mapping.vlan == vlan) {
             *gemport = e.gemport;
             *tcont = e.tcont;
-            ze_os_memcpy(mapping, &e.mapping, sizeof *mapping);
+            __builtin_memcpy(mapping, &e.mapping, sizeof *mapping);
             return ZE_OK;
         }
     }
@@ -85,8 +85,8 @@ uint32_t ze_lsw_flow_save_service(const ze_efc_rule_s *rule, const ze_efc_action
     if (!rule || !action) return ZE_ERR_NULL_PTR;
     ze_efc_shadow_s &e = st_efcservice[fid];
     e.status = 1;
-    ze_os_memcpy(&e.rule, rule, sizeof *rule);
-    ze_os_memcpy(&e.action, action, sizeof *action);
+    __builtin_memcpy(&e.rule, rule, sizeof *rule);
+    __builtin_memcpy(&e.action, action, sizeof *action);
     e.fwd_act = fwd_act;
     return ZE_OK;
 }

@@ -46,9 +46,17 @@ const ActGroup kActGroups[] = {
     {15, 17, EfcAttr::cvact, EfcAttr::cvvalue, [](const ze_efc_action_s &a) -> uint32_t { return a.cvlan; }},
 };
 
-// Writes a word of the action half, given as a field of the whole block.
+constexpr uint32_t group_bits(const ActGroup &g) { return (2u << g.last) - (1u << g.first); }
+
+// Reads and writes a word of the action half, given as a field of the
+// whole block.
+uint32_t get_action(const uint8_t *tail, ze::U32<EfcAttr::kSize> f) {
+    uint32_t v = 0;
+    __builtin_memcpy(&v, tail + (f.offset - EfcAttr::kActionOffset), 4);
+    return v;
+}
 void put_action(uint8_t *tail, ze::U32<EfcAttr::kSize> f, uint32_t v) {
-    ze_os_memcpy(tail + (f.offset - EfcAttr::kActionOffset), &v, 4);
+    __builtin_memcpy(tail + (f.offset - EfcAttr::kActionOffset), &v, 4);
 }
 
 bool in_use(uint32_t fid, uint8_t *eof = nullptr) {
@@ -185,8 +193,9 @@ uint32_t ze_lsw_efc_get_fwd_act(uint32_t fwd_act, uint32_t *act) {
 uint32_t ze_lsw_efc_get_fact(const ze_efc_action_s *action, uint32_t fwd_act, uint8_t *tail) {
     if (!action || !tail) return ZE_ERR_NULL_PTR;
     for (const ActGroup &g : kActGroups) {
-        for (uint32_t bit = g.first; bit <= g.last; ++bit) {
-            if (!(action->act_mask >> bit & 1u)) continue;
+        // The group's set bits, lowest first.
+        for (uint32_t bits = action->act_mask & group_bits(g); bits; bits &= bits - 1) {
+            const uint32_t bit = static_cast<uint32_t>(__builtin_ctz(bits));
             put_action(tail, g.field, bit - g.first + 1);
             if (bit == g.first && g.value) put_action(tail, g.value_field, g.value(*action));
         }
@@ -199,7 +208,8 @@ uint32_t ze_lsw_efc_get_fact(const ze_efc_action_s *action, uint32_t fwd_act, ui
     put_action(tail, EfcAttr::ext, action->ext);
     put_action(tail, EfcAttr::const196, kConst196);
     put_action(tail, EfcAttr::const200, kConst200);
-    uint32_t act = 0;
+    // An unknown forward action leaves the act word as the block held it.
+    uint32_t act = get_action(tail, EfcAttr::act);
     ze_lsw_efc_get_fwd_act(fwd_act, &act);
     put_action(tail, EfcAttr::act, act);
     return ZE_OK;
@@ -269,8 +279,8 @@ uint32_t ze_lsw_flow_get_service_func(const ze_efc_rule_s *rule, const ze_efc_ac
     if (!rule || !action || !fid) return ZE_ERR_NULL_PTR;
     for (uint32_t f = 0; f < ZE_EFC_ENTRY_COUNT; ++f) {
         const ze_efc_shadow_s &e = st_efcservice[f];
-        if (e.status == 1 && ze_os_memcmp(&e.rule, rule, sizeof *rule) == 0 &&
-            ze_os_memcmp(&e.action, action, sizeof *action) == 0 && e.fwd_act == fwd_act) {
+        if (e.status == 1 && __builtin_memcmp(&e.rule, rule, sizeof *rule) == 0 &&
+            __builtin_memcmp(&e.action, action, sizeof *action) == 0 && e.fwd_act == fwd_act) {
             *fid = static_cast<uint16_t>(f);
             return ZE_OK;
         }

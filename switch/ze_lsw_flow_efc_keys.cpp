@@ -57,12 +57,13 @@ const KeyBit kKeyBits[] = {
     {KeyKind::Single, 18, offsetof(ze_efc_rule_s, key21), 1},
 };
 
+constexpr uint32_t kKnownKeyBits = (1u << (sizeof kKeyBits / sizeof kKeyBits[0])) - 1;
 constexpr uint8_t kLastItem = ZE_EFC_ITEM_COUNT - 1;
 constexpr uint32_t kWordBits = 32;
 
 uint32_t rule_value(const ze_efc_rule_s &rule, uint32_t offset, uint32_t width) {
     uint32_t v = 0;
-    ze_os_memcpy(&v, reinterpret_cast<const uint8_t *>(&rule) + offset, width);
+    __builtin_memcpy(&v, reinterpret_cast<const uint8_t *>(&rule) + offset, width);
     return v;
 }
 
@@ -95,9 +96,9 @@ void put_mac(uint8_t &index, ze_efc_item_s *items, uint32_t type, const uint8_t 
     ze_efc_item_s &it = items[index];
     it.g0 = type;
     it.g1 = type;
-    ze_os_memcpy(&it.k0, addr, 4);
+    __builtin_memcpy(&it.k0, addr, 4);
     it.k1 = 0;
-    ze_os_memcpy(&it.k1, addr + 4, 2);
+    __builtin_memcpy(&it.k1, addr + 4, 2);
     uint32_t head = static_cast<uint32_t>(mask[0]) << 24 | static_cast<uint32_t>(mask[1]) << 16 |
                     static_cast<uint32_t>(mask[2]) << 8 | mask[3];
     uint16_t tail = static_cast<uint16_t>(mask[4] << 8 | mask[5]);
@@ -160,9 +161,9 @@ uint32_t ze_lsw_efc_get_attr(const ze_efc_rule_s *rule, ze_efc_item_s *items) {
     ui_g0status = 0;
     uint8_t index = 0;
     const auto *bytes = reinterpret_cast<const uint8_t *>(rule);
-    for (uint32_t bit = 0; bit < sizeof kKeyBits / sizeof kKeyBits[0] && index <= kLastItem; ++bit) {
-        if (!(rule->key_mask >> bit & 1u)) continue;
-        const KeyBit &k = kKeyBits[bit];
+    // The mask's known bits, lowest first.
+    for (uint32_t bits = rule->key_mask & kKnownKeyBits; bits && index <= kLastItem; bits &= bits - 1) {
+        const KeyBit &k = kKeyBits[__builtin_ctz(bits)];
         switch (k.kind) {
             case KeyKind::None:
                 break;

@@ -146,7 +146,7 @@ uint32_t ze_lsw_flow_get_sfc_item_count(uint32_t gemport, uint32_t dir, uint16_t
 uint32_t ze_lsw_flow_get_sfid_bymapping(const ze_sfc_mapping_s *mapping, uint16_t *sfid) {
     if (!mapping || !sfid) return ZE_ERR_NULL_PTR;
     for (uint32_t s = 0; s < ZE_SFC_ENTRY_COUNT; ++s) {
-        if (in_use(s) && ze_os_memcmp(&st_sfcmapping[s].mapping, mapping, sizeof *mapping) == 0) {
+        if (in_use(s) && __builtin_memcmp(&st_sfcmapping[s].mapping, mapping, sizeof *mapping) == 0) {
             *sfid = static_cast<uint16_t>(s);
             return ZE_OK;
         }

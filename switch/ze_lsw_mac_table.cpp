@@ -33,7 +33,7 @@ struct L2Item {
 
 template <class L>
 void put_mac(ze::Block<L> &b, const uint8_t *mac) {
-    ze_os_memcpy(b.data() + L::mac.offset, mac, 6);
+    __builtin_memcpy(b.data() + L::mac.offset, mac, 6);
 }
 
 uint32_t send_static(uint32_t cmd, ze::Block<StaticEntry> &b) {
@@ -119,7 +119,7 @@ uint32_t ze_lsw_mac_get_l2item(uint32_t index, ze_lsw_l2_entry_s *entry) {
     entry->valid = 1;
     entry->age_en = static_cast<uint8_t>(b.get(L2Item::age_en));
     entry->vlan = static_cast<uint16_t>(b.get(L2Item::vlan));
-    ze_os_memcpy(entry->mac, mac, 6);
+    __builtin_memcpy(entry->mac, mac, 6);
     entry->untag = static_cast<uint8_t>(b.get(L2Item::untag));
     return ze::traced(ZE_SITE, ZE_OK);
 }

@@ -10,7 +10,7 @@
 namespace ze::pm {
 namespace {
 
-uint64_t value(const Cell &cell, const CounterBlock &b, uint32_t base, uint32_t instance) {
+uint64_t value(const Cell &cell, const CounterView &b, uint32_t base, uint32_t instance) {
     uint32_t off = base + cell.offset + cell.stride * instance;
     if (cell.width == 8) return b.u64(off);
     return cell.width == 4 ? b.u32(off) : 0;
@@ -35,7 +35,7 @@ void print_indexed32(const char *lname, uint32_t lnum, uint32_t lval, const char
     ze_os_printf("%-32s %03u: %016u | %-32s %03u: %016u\n", lname, lnum, lval, rname, rnum, rval);
 }
 
-void print_rows(const Rows &rows, const CounterBlock &b, uint32_t base, uint32_t instance) {
+void print_rows(const Rows &rows, const CounterView &b, uint32_t base, uint32_t instance) {
     for (const Row &row : rows) {
         const Cell &l = row.left;
         const Cell &r = row.right;
@@ -76,9 +76,9 @@ void print_rows(const Rows &rows, const CounterBlock &b, uint32_t base, uint32_t
     }
 }
 
-void print_alarm_lines(const AlarmLines &lines, const CounterBlock *const *blocks) {
+void print_alarm_lines(const AlarmLines &lines, const CounterView *const *blocks) {
     for (const AlarmLine &a : lines) {
-        const CounterBlock &b = *blocks[a.block];
+        const CounterView &b = *blocks[a.block];
         switch (a.form) {
         case AlarmForm::U32Blank:
             ze_os_printf("%s: %u \n", a.label, b.u32(a.offset));

@@ -21,20 +21,10 @@ namespace ze::pm {
 // The largest counter block (the EPON MAC block).
 inline constexpr uint32_t kMaxCounterBlock = 5752;
 
-// A zeroed counter block of `len` bytes (at most kMaxCounterBlock). Reads
-// past its length give 0.
-class CounterBlock {
+// What the printers read: a counter block's bytes, of which `len` were
+// exchanged with the driver. Reads past the length give 0.
+class CounterView {
 public:
-    explicit CounterBlock(uint32_t len) : len_(len < kMaxCounterBlock ? len : kMaxCounterBlock) {
-        ze_os_memset(bytes_, 0, len_);
-    }
-
-    // The index word (port, queue, route index) that selects the instance.
-    void set_index(uint32_t v) { __builtin_memcpy(bytes_, &v, sizeof v); }
-    // Reads the block with `cmd`, recording `len` (default: the block's).
-    uint32_t read(uint32_t cmd) { return dp_send(cmd, bytes_, len_); }
-    uint32_t read(uint32_t cmd, uint32_t len) { return dp_send(cmd, bytes_, len); }
-
     uint32_t u32(uint32_t off) const {
         uint32_t v = 0;
         if (off + 4 <= len_) __builtin_memcpy(&v, bytes_ + off, sizeof v);
@@ -45,10 +35,34 @@ public:
         return u32(off) | static_cast<uint64_t>(u32(off + 4)) << 32;
     }
 
-private:
-    alignas(8) uint8_t bytes_[kMaxCounterBlock];
+protected:
+    CounterView(uint8_t *bytes, uint32_t len) : bytes_(bytes), len_(len) {}
+
+    uint8_t *bytes_;
     uint32_t len_;
 };
+
+// A zeroed counter block of `len` bytes (at most Capacity) on the caller's
+// stack. Groups that hold two blocks at once size them to their own lengths
+// to keep the frame small.
+template <uint32_t Capacity>
+class SizedCounterBlock : public CounterView {
+public:
+    explicit SizedCounterBlock(uint32_t len) : CounterView(storage_, len < Capacity ? len : Capacity) {
+        ze_os_memset(storage_, 0, len_);
+    }
+
+    // The index word (port, queue, route index) that selects the instance.
+    void set_index(uint32_t v) { __builtin_memcpy(storage_, &v, sizeof v); }
+    // Reads the block with `cmd`, recording `len` (default: the block's).
+    uint32_t read(uint32_t cmd) { return dp_send(cmd, storage_, len_); }
+    uint32_t read(uint32_t cmd, uint32_t len) { return dp_send(cmd, storage_, len); }
+
+private:
+    alignas(8) uint8_t storage_[Capacity];
+};
+
+using CounterBlock = SizedCounterBlock<kMaxCounterBlock>;
 
 // One printed counter: its name and where it lies. Width 4 is a 32-bit word,
 // 8 a 64-bit pair; width 0 prints 0 (a filler, or a name printed again with
@@ -122,7 +136,7 @@ struct Group {
 
 // Prints `rows` over `b`; counters lie at `base` + offset + stride x
 // `instance`, and indexed rows print `instance` as the entry number.
-void print_rows(const Rows &rows, const CounterBlock &b, uint32_t base = 0, uint32_t instance = 0);
+void print_rows(const Rows &rows, const CounterView &b, uint32_t base = 0, uint32_t instance = 0);
 // "%-32s %03u: %016u | %-32s %03u: %016u\n"
 void print_indexed32(const char *lname, uint32_t lnum, uint32_t lval, const char *rname,
                      uint32_t rnum, uint32_t rval);
@@ -143,7 +157,7 @@ struct AlarmLine {
     uint8_t block = 0;  // which of the group's blocks
 };
 using AlarmLines = Table<AlarmLine>;
-void print_alarm_lines(const AlarmLines &lines, const CounterBlock *const *blocks);
+void print_alarm_lines(const AlarmLines &lines, const CounterView *const *blocks);
 
 // The frame of a group: the block (zeroed, its index word set) is read with
 // `cmd` and handed to `print`. A failed read is traced under `site` and

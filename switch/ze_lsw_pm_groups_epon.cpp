@@ -146,13 +146,13 @@ uint32_t ze_lsw_pm_get_epon_tx_statistic(uint32_t llid) {
 }
 
 uint32_t ze_lsw_pm_get_epon_alarm_statistic(void) {
-    CounterBlock alarms(kEponAlarmLen);
+    SizedCounterBlock<kEponAlarmLen> alarms(kEponAlarmLen);
     uint32_t r = alarms.read(kEponAlarmCmd);
     if (r) return ze::traced(ZE_SITE, r);
-    CounterBlock callbacks(kEponCallbackLen);
+    SizedCounterBlock<kEponCallbackLen> callbacks(kEponCallbackLen);
     r = callbacks.read(kEponCallbackCmd);
     if (r) return ze::traced(ZE_SITE, r);
-    const CounterBlock *blocks[] = {&alarms, &callbacks};
+    const CounterView *blocks[] = {&alarms, &callbacks};
     print_alarm_lines(kEponAlarmLines, blocks);
     return ZE_OK;
 }

@@ -136,7 +136,7 @@ uint32_t ze_lsw_pm_get_gpon_alarm_statistic(void) {
         uint32_t r = b.read(cmd, kAlarmReadLen);
         if (r) return ze::traced(ZE_SITE, r);
     }
-    const CounterBlock *blocks[] = {&b};
+    const CounterView *blocks[] = {&b};
     print_alarm_lines(kGponAlarmLines, blocks);
     return ZE_OK;
 }

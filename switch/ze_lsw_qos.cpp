@@ -205,7 +205,7 @@ uint32_t ze_lsw_qos_get_wred(ze_lsw_qos_wred_s *profile) {
     if (!profile) return ZE_ERR_NULL_PTR;
     ze::Block<QosWred> b = wred_key(*profile);
     return ze::fetch(ZE_SITE, b, [&](const auto &blk) {
-        ze_os_memcpy(profile->word, blk.data(), QosWred::kSize);
+        __builtin_memcpy(profile->word, blk.data(), QosWred::kSize);
     });
 }
 
@@ -215,7 +215,7 @@ uint32_t ze_lsw_qos_set_wred(ze_lsw_qos_wred_s profile) {
     static_assert(sizeof profile == QosWred::kSize);
     ze::Block<QosWred> b = wred_key(profile);
     ze::dp_read(b);
-    ze_os_memcpy(b.data(), profile.word, QosWred::kSize);
+    __builtin_memcpy(b.data(), profile.word, QosWred::kSize);
     return ze::traced(ZE_SITE, ze::dp_write(b));
 }
 

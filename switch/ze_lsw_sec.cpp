@@ -14,7 +14,7 @@ using ze::BlackMac;
 using ze::FilterMode;
 
 bool holds(const ze::Block<BlackMac> &b, uint32_t k, const uint8_t *mac) {
-    return b.word(BlackMac::valid(k)) == 1 && ze_os_memcmp(b.data() + BlackMac::mac(k), mac, 6) == 0;
+    return b.word(BlackMac::valid(k)) == 1 && __builtin_memcmp(b.data() + BlackMac::mac(k), mac, 6) == 0;
 }
 
 // The first valid entry holding the MAC, or kEntries.
@@ -75,7 +75,7 @@ uint32_t ze_lsw_sec_add_blackmac(uint32_t port, const uint8_t *mac) {
     while (k < BlackMac::kEntries && b.word(BlackMac::valid(k)) != 0) ++k;
     if (k == BlackMac::kEntries) return ze::traced(ZE_SITE, ZE_ERR_BLACKMAC_FULL);
     b.set_word(BlackMac::valid(k), 1);
-    ze_os_memcpy(b.data() + BlackMac::mac(k), mac, 6);
+    __builtin_memcpy(b.data() + BlackMac::mac(k), mac, 6);
     return ze::traced(ZE_SITE, ze::dp_write(b));
 }
 

@@ -41,48 +41,68 @@ uint32_t modify(ze::Block<L> &b, Edit &&edit) {
     return r;
 }
 
-// Records an added port in the VLAN's shadow entry or cancels a deleted one;
-// the shadow's own result does not reach the caller.
-void record(uint32_t vlan, uint32_t port, bool add) {
-    if (add)
+// Records an added port in the VLAN's shadow entry or cancels a deleted one
+// (through `cancel`); the shadow's own result does not reach the caller.
+void record(uint32_t vlan, uint32_t port, const ze::VlanCancel *cancel) {
+    if (!cancel)
         ze_lsw_vlan_inner_save_cfg(vlan, port);
     else
-        ze_lsw_vlan_inner_cancel_cfg(vlan, port);
+        cancel->run(cancel->ctx, vlan, port);
 }
 
-// Sets or clears a member flag; a port without a flag writes the block back
-// as read. The shadow is updated before the call's own trace record.
-uint32_t change_member(const ze::TraceSite &site, uint32_t vlan, uint32_t port, bool add) {
+// Sets (no cancel step) or clears a member flag; a port without a flag
+// writes the block back as read. The shadow is updated before the call's own
+// trace record.
+uint32_t change_member(const ze::TraceSite &site, uint32_t vlan, uint32_t port,
+                       const ze::VlanCancel *cancel) {
     ze::Block<VlanMember> b;
     b.set(VlanMember::vlan, vlan);
     uint32_t r = modify(b, [&](auto &blk) {
-        if (port < VlanMember::kPorts) blk.set_word(VlanMember::member(port), add ? 1 : 0);
+        if (port < VlanMember::kPorts) blk.set_word(VlanMember::member(port), cancel ? 0 : 1);
     });
-    if (r == ZE_OK) record(vlan, port, add);
+    if (r == ZE_OK) record(vlan, port, cancel);
     return ze::traced(site, r);
 }
 
-uint32_t change_bc_egress(const ze::TraceSite &site, uint32_t vlan, uint32_t port, bool add) {
+uint32_t change_bc_egress(const ze::TraceSite &site, uint32_t vlan, uint32_t port,
+                          const ze::VlanCancel *cancel) {
     if (ze_lsw_port_check(port)) return ze::traced(site, ZE_ERR_FAIL);
     ze::Block<BcEgress> b;
     b.set(BcEgress::vlan, vlan);
     b.set(BcEgress::port, port);
-    b.set(BcEgress::enable, add ? 1 : 0);
-    uint32_t r = ze::dp_send(add ? BcEgress::kAdd : BcEgress::kDel, b.data(), b.kSize);
-    if (r == ZE_OK) record(vlan, port, add);
+    b.set(BcEgress::enable, cancel ? 0 : 1);
+    uint32_t r = ze::dp_send(cancel ? BcEgress::kDel : BcEgress::kAdd, b.data(), b.kSize);
+    if (r == ZE_OK) record(vlan, port, cancel);
     return ze::traced(site, r);
 }
 
+uint32_t cancel_in_shadow(void *, uint32_t vlan, uint32_t port) {
+    return ze_lsw_vlan_inner_cancel_cfg(vlan, port);
+}
+constexpr ze::VlanCancel kShadowCancel{cancel_in_shadow, nullptr};
+
 }  // namespace
+
+namespace ze {
+
+uint32_t vlan_del_port(uint32_t vlan, uint32_t port, const VlanCancel &cancel) {
+    return change_member(ZE_SITE_AS("ze_lsw_vlan_del_port"), vlan, port, &cancel);
+}
+
+uint32_t vlan_bc_del_port(uint32_t vlan, uint32_t port, const VlanCancel &cancel) {
+    return change_bc_egress(ZE_SITE_AS("ze_lsw_vlan_bc_del_port"), vlan, port, &cancel);
+}
+
+}  // namespace ze
 
 extern "C" {
 
 uint32_t ze_lsw_vlan_add_port(uint32_t vlan, uint32_t port) {
-    return change_member(ZE_SITE, vlan, port, true);
+    return change_member(ZE_SITE, vlan, port, nullptr);
 }
 
 uint32_t ze_lsw_vlan_del_port(uint32_t vlan, uint32_t port) {
-    return change_member(ZE_SITE, vlan, port, false);
+    return ze::vlan_del_port(vlan, port, kShadowCancel);
 }
 
 // The read's outcome is not examined: a failed read leaves the zeroed block
@@ -99,11 +119,11 @@ uint32_t ze_lsw_vlan_get_port(uint32_t vlan, uint32_t *bitmap) {
 }
 
 uint32_t ze_lsw_vlan_bc_add_port(uint32_t vlan, uint32_t port) {
-    return change_bc_egress(ZE_SITE, vlan, port, true);
+    return change_bc_egress(ZE_SITE, vlan, port, nullptr);
 }
 
 uint32_t ze_lsw_vlan_bc_del_port(uint32_t vlan, uint32_t port) {
-    return change_bc_egress(ZE_SITE, vlan, port, false);
+    return ze::vlan_bc_del_port(vlan, port, kShadowCancel);
 }
 
 uint32_t ze_lsw_vlan_bc_get_port(uint32_t vlan, uint32_t *bitmap) {

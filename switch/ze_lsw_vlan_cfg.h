@@ -26,3 +26,18 @@ uint32_t ze_lsw_vlan_inner_save_cfg(uint32_t vlan, uint32_t port);
 // when the VLAN has no entry.
 uint32_t ze_lsw_vlan_inner_cancel_cfg(uint32_t vlan, uint32_t port);
 }
+
+namespace ze {
+
+// The shadow step of a port removal, run once the driver has accepted it.
+struct VlanCancel {
+    uint32_t (*run)(void *ctx, uint32_t vlan, uint32_t port);
+    void *ctx;
+};
+
+// ze_lsw_vlan_del_port and ze_lsw_vlan_bc_del_port with their shadow step
+// given by the caller.
+uint32_t vlan_del_port(uint32_t vlan, uint32_t port, const VlanCancel &cancel);
+uint32_t vlan_bc_del_port(uint32_t vlan, uint32_t port, const VlanCancel &cancel);
+
+}  // namespace ze

@@ -32,6 +32,18 @@ TEST_F(Channel, FailingCommandIsStillClosedAndItsCodeReturned) {
     EXPECT_EQ(zesim::raw_commands(), (std::vector<uint32_t>{0, 0x100, 1}));
 }
 
+// The driver's close ends the bracket whatever it answers, so a failing
+// close neither reaches the caller nor refuses the commands after it.
+TEST_F(Channel, FailedCloseStillEndsTheBracket) {
+    zesim::fail(1, 0x55);
+    EXPECT_EQ(ze_chip_set_access_mode(4), 0u);
+    uint32_t mode = 0;
+    EXPECT_EQ(ze_chip_get_access_mode(&mode), 0u);
+    EXPECT_EQ(mode, 4u);
+    EXPECT_EQ(zesim::raw_commands(), (std::vector<uint32_t>{0, 0x100, 1, 0, 0x101, 1, 0, 0x100, 1}));
+    for (const zesim::LogEntry &e : zesim::log()) EXPECT_EQ(e.result, e.cmd == 1 ? 0x55u : 0u) << e.cmd;
+}
+
 TEST_F(Channel, LengthIsRecordedButNeverSent) {
     uint8_t a[76] = {}, b[76] = {};
     uint32_t len_a = 0, len_b = 0;
@@ -48,11 +60,13 @@ TEST_F(Channel, LengthIsRecordedButNeverSent) {
 // Every API function folds driver answers the same way, on the read and on
 // the write: 0xf0000101 becomes 18, anything else 0xffffffff.
 struct MappingCase {
+    const char *name;
     uint32_t failing_cmd;
     uint32_t driver_code;
     uint32_t expected;
     size_t commands_sent;
 };
+void PrintTo(const MappingCase &c, std::ostream *os) { *os << c.name; }
 
 class DriverAnswerMapping : public SimTest, public ::testing::WithParamInterface<MappingCase> {};
 
@@ -69,12 +83,13 @@ TEST_P(DriverAnswerMapping, FoldsIntoTheLibrarysCodes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(GetAndSet, DriverAnswerMapping,
-                         ::testing::Values(MappingCase{0x100, 0xf0000101, ZE_ERR_PARAM, 1},
-                                           MappingCase{0x100, 0xf0000102, ZE_ERR_FAIL, 1},
-                                           MappingCase{0x100, 1, ZE_ERR_FAIL, 1},
-                                           MappingCase{0x101, 0xf0000101, ZE_ERR_PARAM, 2},
-                                           MappingCase{0x101, 0x80000000, ZE_ERR_FAIL, 2},
-                                           MappingCase{0, 0xf0000101, ZE_ERR_PARAM, 0}));
+                         ::testing::Values(MappingCase{"ReadInvalidParam", 0x100, 0xf0000101, ZE_ERR_PARAM, 1},
+                                           MappingCase{"ReadNoBlock", 0x100, 0xf0000102, ZE_ERR_FAIL, 1},
+                                           MappingCase{"ReadOtherCode", 0x100, 1, ZE_ERR_FAIL, 1},
+                                           MappingCase{"WriteInvalidParam", 0x101, 0xf0000101, ZE_ERR_PARAM, 2},
+                                           MappingCase{"WriteOtherCode", 0x101, 0x80000000, ZE_ERR_FAIL, 2},
+                                           MappingCase{"OpenInvalidParam", 0, 0xf0000101, ZE_ERR_PARAM, 0}),
+                         [](const auto &info) { return std::string(info.param.name); });
 
 TEST_F(Channel, OnlyTheDataNodeIsSimulated) {
     EXPECT_EQ(ze_os_hlp_sdk_interface(0x100, 0), ZE_HOST_ERR_NODE_OPEN);

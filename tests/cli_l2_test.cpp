@@ -12,8 +12,7 @@ class CliL2Test : public zetest::SimTest {
 protected:
     void SetUp() override {
         SimTest::SetUp();
-        std::memset(uc_port_vlan_cfg, 0, sizeof uc_port_vlan_cfg); std::memset(buf_, 0, sizeof buf_);
-        std::memset(st_ip_filter_status, 0, sizeof st_ip_filter_status);
+        std::memset(buf_, 0, sizeof buf_);
     }
     uint32_t run(const std::string &suffix, uint32_t len) {
         reply_ = 0xdeadbeef;

@@ -13,9 +13,9 @@ namespace {
 
 using zesh::CommandSpec;
 
-class CommandRows : public zetest::SimTest, public ::testing::WithParamInterface<const CommandSpec *> {
+class CommandRows : public zetest::SimTest, public ::testing::WithParamInterface<CommandSpec> {
 protected:
-    std::string full() const { return std::string(zesh::kCliPrefix) + GetParam()->name; }
+    std::string full() const { return std::string(zesh::kCliPrefix) + GetParam().name; }
 };
 
 // A family's source file and whether it folds every failure into
@@ -47,14 +47,8 @@ const FamilyRule &family_of(const CommandSpec &c) {
     return kFamilies[0];
 }
 
-std::vector<const CommandSpec *> rows() {
-    std::vector<const CommandSpec *> v;
-    for (const CommandSpec &c : zesh::all_commands()) v.push_back(&c);
-    return v;
-}
-
 TEST_P(CommandRows, RefusesEveryOtherLength) {
-    const CommandSpec &c = *GetParam();
+    const CommandSpec &c = GetParam();
     if (!c.checked) GTEST_SKIP() << "the handler does not check its request";
     std::vector<uint8_t> buf(zesh::kRequestBufferSize, 0);
     for (uint32_t len : {c.request + 1, c.request ? c.request - 1 : 4096u}) {
@@ -73,7 +67,7 @@ TEST_P(CommandRows, RefusesEveryOtherLength) {
 
 // Once on a working driver, once on one that refuses every command.
 TEST_P(CommandRows, RepliesFoldsAndTracesAsItsFamily) {
-    const CommandSpec &c = *GetParam();
+    const CommandSpec &c = GetParam();
     const FamilyRule &family = family_of(c);
     for (bool driver_fails : {false, true}) {
         if (driver_fails) zesim::fail(0, ZE_DRV_INVALID_PARAM);
@@ -99,8 +93,7 @@ TEST_P(CommandRows, RepliesFoldsAndTracesAsItsFamily) {
     EXPECT_EQ(console().find("[ERROR INPUT NULL PTR"), std::string::npos);
 }
 
-INSTANTIATE_TEST_SUITE_P(AllCommands, CommandRows, ::testing::ValuesIn(rows()),
-                         [](const auto &info) { return std::string(info.param->name); });
+INSTANTIATE_TEST_SUITE_P(AllCommands, CommandRows, ::testing::ValuesIn(zesh::all_commands()), zetest::row_name);
 
 class Registered : public zetest::SimTest {};
 

@@ -12,8 +12,13 @@ using EfcTest = FlowTest;
 // Single keys of types 6 (0x800), 15 (6) and 7 (2): two items, the second
 // half empty.
 ze_efc_rule_s three_singles(uint32_t more_bits = 0, uint32_t n_base = 0, uint8_t igr_port = 0) {
-    return {.key_mask = (1u << 7) | (1u << 10) | (1u << 15) | more_bits, .n_base = n_base, .key10 = 6,
-            .igr_port = igr_port, .key7 = 0x0800, .key15 = 2};
+    ze_efc_rule_s r = rule((1u << 7) | (1u << 10) | (1u << 15) | more_bits);
+    r.n_base = n_base;
+    r.key10 = 6;
+    r.igr_port = igr_port;
+    r.key7 = 0x0800;
+    r.key15 = 2;
+    return r;
 }
 
 // Installs a rule searching from `first`; returns its fid.
@@ -55,10 +60,10 @@ TEST_F(EfcTest, RuleToKeyItems) {
            "ze_lsw_efc_get_value() end 6       2048    0       0       \n",
            "ze_lsw_efc_get_value() entry 0       15      6       15      \n", "ze_lsw_efc_get_value() index:1  \n",
            "ze_lsw_efc_get_value() end 0       0       0       0       \n"});
-    check("ipv4 pair, counted pair",
-          {.key_mask = (1u << 3) | (1u << 4) | (1u << 18) | (1u << 19), .dip = 0x0a000001, .dip_mask = 0xffffff00,
-           .sip = 0xc0a80001, .sip_mask = 0xffff0000, .key18_19 = 0x1234, .key18_19_masknum = 5},
-          {{16, 8, 4, 3, 0xc0a80001, 0x0a000001}, {5, 5, 17, 11, 0x1234, 0x1234}}, 0);
+    ze_efc_rule_s pairs = rule((1u << 3) | (1u << 4) | (1u << 18) | (1u << 19));
+    pairs.dip = 0x0a000001, pairs.dip_mask = 0xffffff00, pairs.sip = 0xc0a80001, pairs.sip_mask = 0xffff0000;
+    pairs.key18_19 = 0x1234, pairs.key18_19_masknum = 5;
+    check("ipv4 pair, counted pair", pairs, {{16, 8, 4, 3, 0xc0a80001, 0x0a000001}, {5, 5, 17, 11, 0x1234, 0x1234}}, 0);
     check("lone address", ip_rule(0x0a000001), {{0, 0, 0, 3, 0, 0x0a000001}}, 1,
           {"ze_lsw_efc_get_masknum() entry ui_bitmask = 0\r\n", "~~~dip = 0xa000001 \r\n",
            "~ui_dipmask = 0xffffffff \r\n", "~ui_m0 = 0x0 \r\n"});
@@ -132,7 +137,8 @@ TEST_F(EfcTest, RuleRangeWalksBackToThePreviousRule) {
 // one entry.
 TEST_F(EfcTest, InstallWritesOneBlockPerItemWithEofOnTheLast) {
     ZE_LITTLE_ENDIAN_LAYOUT("key values are the rule's bytes copied into key words in memory order");
-    ze_efc_action_s a{.act_mask = (1u << 12) | (1u << 2), .egress_port = 5, .ext = 0x11, .spri = 3, .svlan = 200};
+    ze_efc_action_s a = action((1u << 12) | (1u << 2));
+    a.egress_port = 5, a.ext = 0x11, a.spri = 3, a.svlan = 200;
     EXPECT_EQ(install(three_singles(1u << 0, 1, 2), 1, a, 4), 2);
     expect_debug_under("ze_lsw_");
     ASSERT_EQ(zesim::commands(), (std::vector<uint32_t>{0x505, 0x505}));
@@ -165,6 +171,23 @@ TEST_F(EfcTest, ActionGroupsKeepTheirHighestBit) {
         ASSERT_EQ(ze_lsw_efc_get_fact(&a, c[1], block + 84), 0u);
         EXPECT_EQ(word_at(zesim::Bytes(block, block + 216), c[2]), c[3]) << std::hex << c[0] << " fwd " << c[1];
     }
+}
+
+// Only the forward codes 0..12 reach the act word; any other code keeps
+// what the block held, while every other action word is written.
+TEST_F(EfcTest, UnknownForwardActionKeepsTheActWord) {
+    const uint32_t cases[][2] = {{13, 0x5a5a5a5a}, {0xffffffff, 0x5a5a5a5a}, {12, 12}, {0, 0}};  // code, act
+    for (const auto &c : cases) {
+        zesim::Bytes block(216, 0x5a);
+        ze_efc_action_s a = action();
+        uint32_t act = 0x5a5a5a5a;
+        EXPECT_EQ(ze_lsw_efc_get_fwd_act(c[0], &act), 0u);
+        EXPECT_EQ(act, c[1]) << "get_fwd_act " << c[0];
+        ASSERT_EQ(ze_lsw_efc_get_fact(&a, c[0], block.data() + 84), 0u);
+        EXPECT_EQ(word_at(block, 120), c[1]) << "get_fact " << c[0];
+        EXPECT_EQ(word_at(block, 152), 7u);
+    }
+    EXPECT_EQ(ze_lsw_efc_get_fwd_act(1, nullptr), ZE_ERR_NULL_PTR);
 }
 
 TEST_F(EfcTest, InstallFailuresFreeTheItemList) {

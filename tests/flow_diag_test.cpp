@@ -40,7 +40,8 @@ TEST_F(FlowDiagTest, EmptyTablesAndFailedReadsStopAtTheHeaders) {
 
 TEST_F(FlowDiagTest, SfcListingShowsModesOredAndTheGemPort) {
     // VLAN mode 1, priority mode 0
-    ze_sfc_mapping_s m{.key_mask = ZE_SFC_KEY_VLAN | ZE_SFC_KEY_IGR, .match_mode = 5, .igr = 0x1f, .vlan = 100};
+    ze_sfc_mapping_s m = vlan_mapping(100, ZE_SFC_KEY_VLAN | ZE_SFC_KEY_IGR);
+    m.match_mode = 5, m.igr = 0x1f;
     uint16_t sfid = 0;
     ASSERT_EQ(ze_lsw_flow_add_mapping(&m, 0, &sfid), 0u);
     ASSERT_EQ(ze_gmac_set_gemport(sfid, 1, 1001), 0u);
@@ -55,7 +56,8 @@ TEST_F(FlowDiagTest, EfcListingRepeatsKeysInDecimalAndActionsInHex) {
     ze_efc_rule_s r = ip_rule(0x0a000001);
     r.key_mask |= 1u << 15;
     r.key15 = 2;
-    ze_efc_action_s a{.act_mask = (1u << 2) | (1u << 13), .spri = 5};
+    ze_efc_action_s a = action((1u << 2) | (1u << 13));
+    a.spri = 5;
     ASSERT_EQ(ze_lsw_flow_add_service(&r, &a, 2, nullptr), 0u);
     ASSERT_EQ(ze_lsw_flow_diagnose(0, 0, 0, 0), 0u);
     EXPECT_EQ(console(),

@@ -1,5 +1,5 @@
-// Fixture of the flow classifier suites: besides a fresh simulator, empty
-// shadow tables and half-item flag, and helpers that build records.
+// Fixture of the flow classifier suites: besides the shared fixture, a heap
+// balance check, and helpers that build records.
 #pragma once
 
 #include <cstring>
@@ -11,19 +11,33 @@
 #include "ze_lsw_flow.h"
 #include "ze_lsw_flow_shadow.h"
 
-// Records are built with designated initializers: members left out are zero.
-#pragma GCC diagnostic ignored "-Wmissing-field-initializers"
-
 namespace zetest {
 
-// Every byte of a record is set, pad included: searches compare every byte.
+// Records start all zero, pad included (searches compare every byte), and
+// the helpers set only the members they name.
 inline ze_sfc_mapping_s vlan_mapping(uint16_t vlan, uint32_t mask = ZE_SFC_KEY_VLAN) {
-    return {.key_mask = mask, .vlan = vlan};
+    ze_sfc_mapping_s m{};
+    m.key_mask = mask;
+    m.vlan = vlan;
+    return m;
 }
-inline ze_efc_rule_s rule(uint32_t mask) { return {.key_mask = mask}; }
-inline ze_efc_action_s action(uint32_t mask = 0) { return {.act_mask = mask}; }
+inline ze_efc_rule_s rule(uint32_t mask) {
+    ze_efc_rule_s r{};
+    r.key_mask = mask;
+    return r;
+}
+inline ze_efc_action_s action(uint32_t mask = 0) {
+    ze_efc_action_s a{};
+    a.act_mask = mask;
+    return a;
+}
 // A rule on the destination address alone, every bit compared.
-inline ze_efc_rule_s ip_rule(uint32_t dip) { return {.key_mask = 1u << 3, .dip = dip, .dip_mask = 0xffffffff}; }
+inline ze_efc_rule_s ip_rule(uint32_t dip) {
+    ze_efc_rule_s r = rule(1u << 3);
+    r.dip = dip;
+    r.dip_mask = 0xffffffff;
+    return r;
+}
 // Checks words of a block sent to the datapath: {offset, value} pairs.
 inline void expect_words(const zesim::Bytes &b, std::initializer_list<std::pair<uint32_t, uint32_t>> want) {
     for (auto [offset, value] : want) EXPECT_EQ(word_at(b, offset), value) << "offset " << offset;
@@ -41,9 +55,6 @@ class FlowTest : public SimTest {
 protected:
     void SetUp() override {
         SimTest::SetUp();
-        std::memset(st_sfcmapping, 0, sizeof st_sfcmapping);
-        std::memset(st_efcservice, 0, sizeof st_efcservice);
-        ui_g0status = 0;
         heap_at_start_ = ze_host_heap_outstanding();
     }
     void TearDown() override {

@@ -12,6 +12,7 @@
 namespace {
 
 struct GroupCase { const char *golden; uint32_t (*print)(); };
+void PrintTo(const GroupCase &c, std::ostream *os) { *os << c.golden; }
 
 // A group printed by its function of no argument, golden file of its name.
 #define GROUP(name) {#name, ze_lsw_pm_get_##name##_statistic}

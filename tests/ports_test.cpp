@@ -56,6 +56,18 @@ TEST_F(Ports, FlowBitmapIsAllPortsUnlessFlagged) {
     EXPECT_EQ(bm, 0u);
 }
 
+// A null output is refused before any port or flag is looked at, and
+// without a trace record, as every pointer check of the library is.
+TEST_F(Ports, ConversionsRefuseANullOutput) {
+    for (uint32_t port : {0u, 6u, 8u, 99u}) {
+        EXPECT_EQ(ze_lsw_port_get_bitmap(port, nullptr), ZE_ERR_NULL_PTR) << port;
+        EXPECT_EQ(ze_lsw_flow_get_portbitmap(0, port, nullptr), ZE_ERR_NULL_PTR) << port;
+        EXPECT_EQ(ze_lsw_flow_get_portbitmap(1, port, nullptr), ZE_ERR_NULL_PTR) << port;
+    }
+    for (uint32_t bitmap : {0x01u, 0x40u, 0x03u, 0u}) EXPECT_EQ(ze_lsw_bitmap_get_port(bitmap, nullptr), ZE_ERR_NULL_PTR);
+    EXPECT_TRUE(traces().empty());
+}
+
 TEST_F(Ports, PortSwitchChecksButTranslatesNothing) {
     uint32_t out = 0x1234;
     EXPECT_EQ(ze_lsw_port_switch(2, nullptr), ZE_ERR_NULL_PTR);

@@ -78,14 +78,10 @@ inline void expect_rmw(const Rmw &c) {
 // Ingress bitmaps of a flow: a LAN port (upstream), the PON port (downstream).
 inline constexpr uint8_t kUp = 0x01, kDown = 0x20;
 
-// The flow shadows and the flow CAR record are process globals: every test
-// starts with them empty.
+// The flow shadows and the flow CAR record are process globals, which the
+// shared fixture empties before every test.
 class RateTest : public FlowTest {
 protected:
-    void SetUp() override {
-        FlowTest::SetUp();
-        std::memset(g_st_fcar_status, 0, sizeof g_st_fcar_status);
-    }
     static void flow(uint32_t sfid, uint16_t gemport, uint8_t igr, uint8_t status = 1) {
         st_sfcmapping[sfid].status = status;
         st_sfcmapping[sfid].gemport = gemport;

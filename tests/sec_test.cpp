@@ -12,7 +12,6 @@ using namespace zetest;
 
 class SecTest : public SimTest {
 protected:
-    void SetUp() override { SimTest::SetUp(); std::memset(st_ip_filter_status, 0, sizeof st_ip_filter_status); }
     static ze_lsw_ip_filter_rule_s rule(uint32_t field, uint32_t ipversion = 0) {
         ze_lsw_ip_filter_rule_s r{};
         r.porttype = 1, r.field = field, r.ipversion = ipversion, r.mask = 0x118;

@@ -20,8 +20,9 @@ void install_vlans(uint32_t n) {
 }
 
 TEST_F(SfcTest, InstallWritesEveryKeyOfTheMaskWithoutReadingFirst) {
-    ze_sfc_mapping_s m{.key_mask = 0x1f, .match_mode = 7 /* each key's mode: 7 / 5 = 1 */, .igr = 0x21,
-                       .vlan = 300, .fid = 9, .pri = 5, .fifth = 0x4242};
+    ze_sfc_mapping_s m = vlan_mapping(300, 0x1f);
+    m.match_mode = 7;  // each key's mode: 7 / 5 = 1
+    m.igr = 0x21, m.fid = 9, m.pri = 5, m.fifth = 0x4242;
     uint16_t sfid = 0xffff;
     ASSERT_EQ(ze_lsw_flow_set_sfc(&m, &sfid), 0u);
     EXPECT_EQ(sfid, 0);
@@ -86,7 +87,11 @@ TEST_F(SfcTest, GemPortSearchesFollowDirectionAndStart) {
     // GEM port 77 downstream, 77 upstream, 88 upstream, 77 upstream but free
     const uint8_t igr[] = {0x20, 0x02, 0x02, 0x02};
     const uint16_t gem[] = {77, 77, 88, 77};
-    for (uint32_t s = 0; s < 4; ++s) st_sfcmapping[s] = {s < 3 ? uint8_t{1} : uint8_t{0}, 0, gem[s], {.igr = igr[s]}};
+    for (uint32_t s = 0; s < 4; ++s) {
+        st_sfcmapping[s].status = s < 3 ? 1 : 0;
+        st_sfcmapping[s].gemport = gem[s];
+        st_sfcmapping[s].mapping.igr = igr[s];
+    }
     const uint32_t cases[][5] = {  // GEM port, direction, first, result, sfid
         {77, 0, 0, 0, 1}, {77, 1, 0, 0, 0}, {77, 1, 1, 18, 0xffff}, {77, 2, 0, 18, 0xffff}, {77, 0, 128, 18, 0xffff},
     };

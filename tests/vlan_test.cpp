@@ -13,7 +13,6 @@ using namespace zetest;
 
 class VlanTest : public SimTest {
 protected:
-    void SetUp() override { SimTest::SetUp(); std::memset(uc_port_vlan_cfg, 0, sizeof uc_port_vlan_cfg); }
     static void expect_entry(uint32_t i, uint8_t state, uint8_t mask, uint16_t vlan) {
         const ze_port_vlan_cfg_s &e = uc_port_vlan_cfg[i];
         EXPECT_TRUE(e.state == state && e.port_mask == mask && e.vlan == vlan)

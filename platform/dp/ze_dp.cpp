@@ -5,14 +5,15 @@
 // there).
 #include "ze_dp.h"
 
+#include "../ubasic/recorder.h"
 #include "ze_host.h"
 #include "ze_sim.h"
 
 namespace {
 
-constexpr const char *kDpNode = "/dev/ze_ioctl_dp";
+constexpr const char *kDpNode = ZE_HOST_DP_NODE;
 
-int32_t block_call(const char *name, uint32_t cmd, void *block) {
+int32_t send_block(const char *name, uint32_t cmd, void *block) {
     if (ze_host_backend_is_simulator())
         return static_cast<int32_t>(zesim::dp_block_call(name, cmd, block));
     uint32_t r = ze_os_sendioctl(kDpNode, 0, 0);
@@ -22,10 +23,16 @@ int32_t block_call(const char *name, uint32_t cmd, void *block) {
     return static_cast<int32_t>(r);
 }
 
-int32_t op(const char *name, uint32_t index) {
+int32_t send_op(const char *name, uint32_t index) {
     if (!ze_host_backend_is_simulator()) return static_cast<int32_t>(ZE_HOST_ERR_UNSUPPORTED);
     return static_cast<int32_t>(zesim::dp_op(name, index));
 }
+
+int32_t block_call(const char *name, uint32_t cmd, void *block) {
+    return zehost::recorded_dp_block(name, cmd, block, send_block);
+}
+
+int32_t op(const char *name, uint32_t index) { return zehost::recorded_dp_op(name, index, send_op); }
 
 }  // namespace
 
@@ -33,6 +40,11 @@ int32_t op(const char *name, uint32_t index) {
     int32_t fn(void *a) { return block_call(#fn, cmd, a); }
 
 extern "C" {
+
+int32_t ze_host_dp_block_call(const char *name, uint32_t cmd, void *block) {
+    return block_call(name, cmd, block);
+}
+int32_t ze_host_dp_op(const char *name, uint32_t index) { return op(name, index); }
 
 int32_t ze_dp_dev_open(void) { return op("ze_dp_dev_open", 0); }
 int32_t ze_dp_dev_close(void) { return op("ze_dp_dev_close", 0); }

@@ -32,6 +32,8 @@ extern "C" {
 #define ZE_HOST_ERR_IOCTL       0xf0000202u /* the node refused the ioctl */
 #define ZE_HOST_ERR_UNSUPPORTED 0xf0000203u /* the backend cannot serve this call */
 
+#define ZE_HOST_DP_NODE "/dev/ze_ioctl_dp"
+
 void ze_host_use_simulator(void);
 /* Route datapath commands to a real device node, e.g. "/dev/ze_ioctl_dp". */
 void ze_host_use_device(const char *dp_node_path);
@@ -78,6 +80,30 @@ void ze_host_ifm_clear(void);
 /* Make the registration number `nth` (0-based, counted from now) fail with
  * `code`; code 0 disarms. */
 void ze_host_ifm_fail_at(uint32_t nth, uint32_t code);
+
+/* ---- Recording -----------------------------------------------------------
+ * Every device-node ioctl, named kernel call and datapath library call of the
+ * process, written to a file as one text line each (the format is in the
+ * README, "Record and replay"); `zesh replay` re-issues them and compares the
+ * answers. Recording changes nothing that the library or the datapath sees. */
+/* The first line of a recording: the stem and the format version. */
+#define ZE_HOST_RECORD_HEADER_STEM "ze_adapter recording format "
+#define ZE_HOST_RECORD_FORMAT "1"
+/* Record into `path` (replaced; a recording in progress ends first).
+ * Returns 0, or -1 when the file cannot be written. */
+int ze_host_record_start(const char *path);
+void ze_host_record_stop(void);
+/* 1 while a recording is on. */
+int ze_host_recording(void);
+/* A line of the host's own: a "# ..." note for the reader, or a line that a
+ * replay acts on. Line breaks in `text` become blanks. */
+void ze_host_record_text(const char *text);
+
+/* The datapath library's two kinds of call, made by name as its named
+ * functions make them (libze_dp): a block exchanged with datapath command
+ * `cmd`, and an operation with an index (0 for those without). */
+int32_t ze_host_dp_block_call(const char *name, uint32_t cmd, void *block);
+int32_t ze_host_dp_op(const char *name, uint32_t index);
 
 /* ---- Heap accounting ----------------------------------------------------- */
 /* Blocks handed out by ze_os_malloc and not yet freed. */

@@ -17,6 +17,7 @@
 #include <initializer_list>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zesim {
@@ -116,6 +117,9 @@ void for_each_stored(uint32_t id, void (*fn)(uint8_t *block, void *ctx), void *c
 std::span<const Area *const> areas();
 const BlockDesc *find_block(uint32_t id);  // by get or set id
 const ActionDesc *find_action(uint32_t id);
+// Bytes of the block that command `id` exchanges, from its block or action
+// descriptor; -1 when no descriptor describes the id.
+int64_t block_length(uint32_t id);
 
 // ---- Command log ----------------------------------------------------------------
 enum class EntryKind { Ioctl, KernelCall, DpOp };
@@ -141,11 +145,40 @@ std::vector<uint32_t> raw_commands();
 // ---- Fault injection -------------------------------------------------------------
 // Fail command `cmd` with `code`: on its nth occurrence counted from now
 // (1-based), or on every occurrence when nth is 0. A failed command changes
-// nothing in the model. Command 0 is the bracket open.
+// nothing in the model. Command 0 is the bracket open: a failed open leaves
+// no bracket. Command 1 is the close: a failed close reports its code but
+// ends the bracket all the same, so the next open succeeds.
 void fail(uint32_t cmd, uint32_t code, uint32_t nth = 0);
 // The same for a named kernel call or datapath library operation.
 void fail_call(const char *name, uint32_t code, uint32_t nth = 0);
 void clear_faults();
+
+// ---- Saved state -----------------------------------------------------------------
+// What the driver holds: every stored block (its keys lie inside it) and
+// whether a bracket is open. Faults and the log steer and record the model;
+// they are not its state.
+struct State {
+    bool bracket_open = false;
+    // Descriptor id (get id, or set id of a write-only block) and content,
+    // ordered by id, then key.
+    std::vector<std::pair<uint32_t, Bytes>> blocks;
+    bool operator==(const State &) const = default;
+};
+State state();
+// Replaces the stored blocks and the bracket with `s`. False with a message,
+// and the model untouched, when a block has no descriptor, another length
+// than its descriptor's, or the key of an earlier block.
+bool set_state(const State &s, std::string &error);
+// The state as a text file (format in the README), and back. A load changes
+// nothing unless the whole file is well formed.
+bool save_state(const std::string &path, std::string &error);
+bool load_state(const std::string &path, std::string &error);
+
+// ---- Text forms --------------------------------------------------------------------
+// Bytes as lower-case hex, two digits a byte, and back; from_hex is false on
+// an odd count or a character that is not a hex digit.
+std::string to_hex(std::span<const uint8_t> bytes);
+bool from_hex(std::string_view text, Bytes &out);
 
 }  // namespace zesim
 

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "shadow_tables.h"
 #include "ze_adapter_cli.h"
 
 namespace zetest {
@@ -15,6 +16,7 @@ void capture(const char *text, size_t len, void *ctx) {
 void SimTest::SetUp() {
     ze_host_use_simulator();
     zesim::reset();
+    clear_shadow_tables();
     ze_host_trace_clear();
     console_.clear();
     ze_host_set_print_sink(capture, &console_);
@@ -70,6 +72,8 @@ zesim::Bytes native_words(std::initializer_list<uint32_t> words) {
     return b;
 }
 
+std::string row_name(const ::testing::TestParamInfo<zesh::CommandSpec> &info) { return info.param.name; }
+
 std::vector<zesim::LogEntry> entries_of(uint32_t cmd) {
     std::vector<zesim::LogEntry> out;
     for (const zesim::LogEntry &e : zesim::log())
@@ -78,3 +82,5 @@ std::vector<zesim::LogEntry> entries_of(uint32_t cmd) {
 }
 
 }  // namespace zetest
+
+void zesh::PrintTo(const CommandSpec &row, std::ostream *os) { *os << row.name; }

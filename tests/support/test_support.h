@@ -1,5 +1,5 @@
-// Shared fixture: a fresh simulator, an empty trace ring and the library's
-// console output captured, for every test.
+// Shared fixture: a fresh simulator, empty shadow tables, an empty trace ring
+// and the library's console output captured, for every test.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -8,11 +8,18 @@
 #include <bit>
 #include <cstdint>
 #include <initializer_list>
+#include <ostream>
 #include <string>
 #include <vector>
 
+#include "command_table.h"
 #include "ze_host.h"
 #include "ze_sim.h"
+
+namespace zesh {
+// Failure messages and test lists show a command row by its name.
+void PrintTo(const CommandSpec &row, std::ostream *os);
+}  // namespace zesh
 
 namespace zetest {
 
@@ -51,5 +58,8 @@ inline constexpr bool kBigEndian = std::endian::native == std::endian::big;
 
 // The ioctl log entries of one command id.
 std::vector<zesim::LogEntry> entries_of(uint32_t cmd);
+
+// Name of a test instantiated over the command table: the row's command.
+std::string row_name(const ::testing::TestParamInfo<zesh::CommandSpec> &info);
 
 }  // namespace zetest

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <sstream>
 
 namespace zesh {
@@ -22,10 +23,16 @@ const CommandSpec *find_command(std::string_view name) {
     return nullptr;
 }
 
+const Family *find_family(std::string_view name) {
+    for (const Family &f : families())
+        if (name == f.name) return &f;
+    return nullptr;
+}
+
 namespace {
 
-[[noreturn]] void malformed(const CommandSpec &row, const std::string &word) {
-    std::fprintf(stderr, "zesh: command table row %s: bad field '%s'\n", row.name, word.c_str());
+[[noreturn]] void malformed(const char *owner, const std::string &word) {
+    std::fprintf(stderr, "zesh: table row %s: bad field '%s'\n", owner, word.c_str());
     std::abort();
 }
 
@@ -33,21 +40,26 @@ std::optional<std::pair<FieldType, uint32_t>> parse_type(const std::string &t) {
     if (t == "u8") return {{FieldType::U8, 1}};
     if (t == "u16") return {{FieldType::U16, 2}};
     if (t == "u32") return {{FieldType::U32, 4}};
+    if (t == "u64") return {{FieldType::U64, 8}};
     if (t == "i32") return {{FieldType::I32, 4}};
     if (t == "mac") return {{FieldType::Mac, 6}};
     if (t == "ipv4") return {{FieldType::Ipv4, 4}};
-    if (t.starts_with("bytes") && t.size() > 5) {
-        uint32_t n = static_cast<uint32_t>(std::strtoul(t.c_str() + 5, nullptr, 10));
-        if (n) return {{FieldType::Bytes, n}};
+    for (auto [prefix, type] : {std::pair{"bytes", FieldType::Bytes}, std::pair{"text", FieldType::Text}}) {
+        const size_t len = std::strlen(prefix);
+        if (!t.starts_with(prefix) || t.size() == len) continue;
+        uint32_t n = static_cast<uint32_t>(std::strtoul(t.c_str() + len, nullptr, 10));
+        if (n) return {{type, n}};
     }
     return std::nullopt;
 }
 
 }  // namespace
 
-std::vector<Field> fields_of(const CommandSpec &row) {
+std::vector<Field> fields_of(const CommandSpec &row) { return parse_fields(row.fields, row.request, row.name); }
+
+std::vector<Field> parse_fields(const char *list, uint32_t size, const char *owner) {
     std::vector<Field> out;
-    std::istringstream in(row.fields);
+    std::istringstream in(list);
     std::string word;
     while (in >> word) {
         Dir dir = Dir::In;
@@ -56,13 +68,20 @@ std::vector<Field> fields_of(const CommandSpec &row) {
             dir = w[0] == '>' ? Dir::Out : Dir::InOut;
             w.erase(0, 1);
         }
-        size_t colon = w.find(':'), at = w.find('@');
-        if (colon == std::string::npos || at == std::string::npos || at < colon) malformed(row, word);
+        size_t colon = w.find(':'), at = w.find('@'), opt = w.find('?');
+        if (colon == std::string::npos || at == std::string::npos || at < colon || opt < at ||
+            (opt != std::string::npos && dir == Dir::Out))
+            malformed(owner, word);
         auto type = parse_type(w.substr(colon + 1, at - colon - 1));
-        if (!type) malformed(row, word);
+        if (!type) malformed(owner, word);
         uint32_t off = static_cast<uint32_t>(std::strtoul(w.c_str() + at + 1, nullptr, 10));
-        if (off + type->second > row.request) malformed(row, word);
-        out.push_back({w.substr(0, colon), type->first, off, type->second, dir});
+        if (off + type->second > size) malformed(owner, word);
+        Field f{w.substr(0, colon), type->first, off, type->second, dir, false, {}};
+        if (opt != std::string::npos) {
+            f.optional = true;
+            f.fallback = w.substr(opt + 1);
+        }
+        out.push_back(f);
     }
     return out;
 }

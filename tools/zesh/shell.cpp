@@ -1,32 +1,70 @@
 #include "shell.h"
 
-#include <cinttypes>
-#include <cstdio>
-#include <cstring>
 #include <ostream>
-#include <sstream>
 
+#include "api_call.h"
 #include "command_table.h"
+#include "help.h"
 #include "request.h"
-#include "ze_host.h"
+#include "values.h"
+#include "ze_result.h"
 
 namespace zesh {
 
+namespace {
+
+struct CodeText {
+    uint32_t code;
+    const char *name;
+    const char *meaning;
+};
+
+// 0xffffffff folds every other driver answer and, in the strict families,
+// a refused argument too: it tells that the call failed, not why.
+constexpr CodeText kCodes[] = {
+    {ZE_OK, "ZE_OK", "ok"},
+    {ZE_ERR_NOT_FOUND, "ZE_ERR_NOT_FOUND", "not found"},
+    {ZE_ERR_EXISTS, "ZE_ERR_EXISTS", "already present"},
+    {ZE_ERR_FULL, "ZE_ERR_FULL", "table full"},
+    {ZE_ERR_PARAM, "ZE_ERR_PARAM", "invalid parameter"},
+    {ZE_ERR_NO_MEMORY, "ZE_ERR_NO_MEMORY", "out of memory"},
+    {ZE_ERR_NULL_PTR, "ZE_ERR_NULL_PTR", "null pointer"},
+    {ZE_ERR_BLACKMAC_FULL, "ZE_ERR_BLACKMAC_FULL", "black MAC list full"},
+    {ZE_ERR_BLACKMAC_MISSING, "ZE_ERR_BLACKMAC_MISSING", "black MAC not in list"},
+    {ZE_ERR_UNKNOWN_VALUE, "ZE_ERR_UNKNOWN_VALUE", "unknown value from the driver"},
+    {ZE_ERR_FAIL, "ZE_ERR_FAIL", "failed; the code does not say why"},
+};
+
+const CodeText *code_text(uint32_t code) {
+    for (const CodeText &c : kCodes)
+        if (c.code == code) return &c;
+    return nullptr;
+}
+
+std::string joined(const std::vector<std::string> &words) {
+    std::string s;
+    for (const std::string &w : words) s += (s.empty() ? "" : " ") + w;
+    return s;
+}
+
+// Command names and built-ins, for "did you mean".
+std::vector<std::string> command_words() {
+    std::vector<std::string> names;
+    for (const Builtin &b : builtins()) names.push_back(b.name);
+    for (const CommandSpec &c : all_commands()) names.push_back(c.name);
+    return names;
+}
+
+}  // namespace
+
 const char *result_meaning(uint32_t code) {
-    switch (code) {
-        case 0: return "ok";
-        case 14: return "not found";
-        case 15: return "already present";
-        case 16: return "table full";
-        case 18: return "invalid parameter";
-        case 27: return "out of memory";
-        case 31: return "null pointer";
-        case 42: return "black MAC list full";
-        case 44: return "black MAC not in list";
-        case 46: return "unknown value from the driver";
-        case 0xffffffffu: return "driver failure";
-        default: return "unknown code";
-    }
+    const CodeText *c = code_text(code);
+    return c ? c->meaning : "unknown code";
+}
+
+const char *result_name(uint32_t code) {
+    const CodeText *c = code_text(code);
+    return c ? c->name : nullptr;
 }
 
 std::vector<std::vector<std::string>> split_line(const std::string &line) {
@@ -63,32 +101,10 @@ std::vector<std::vector<std::string>> split_line(const std::string &line) {
     return cmds;
 }
 
-bool parse_number(const std::string &s, uint64_t &value) {
-    if (s.empty()) return false;
-    const char *p = s.c_str();
-    bool neg = *p == '-';
-    if (neg) ++p;
-    char *end = nullptr;
-    errno = 0;
-    unsigned long long v = std::strtoull(p, &end, 0);
-    if (errno || end == p || *end) return false;
-    value = neg ? static_cast<uint64_t>(-static_cast<int64_t>(v)) : v;
-    return true;
-}
-
-namespace {
-void to_stream(const char *text, size_t len, void *ctx) {
-    auto *sh = static_cast<Shell *>(ctx);
-    sh->out().write(text, static_cast<std::streamsize>(len));
-    if (len) sh->console_last_ = text[len - 1];
-}
-}  // namespace
-
-// The library's console output goes to the shell's stream, in order with
-// the shell's own lines.
-Shell::Shell(std::ostream &out) : out_(out) { ze_host_set_print_sink(to_stream, this); }
-
-Shell::~Shell() { ze_host_set_print_sink(nullptr, nullptr); }
+Shell::Shell(std::ostream &out, Executor *executor)
+    : out_(out),
+      own_(executor ? nullptr : std::make_unique<LocalExecutor>(out)),
+      exec_(executor ? *executor : *own_) {}
 
 bool Shell::run_line(const std::string &line) {
     bool ok = true;
@@ -105,96 +121,92 @@ bool Shell::run_words(const std::vector<std::string> &w) {
         quit_ = true;
         return true;
     }
-    if (cmd == "help" || cmd == "?") return help(w);
-    if (cmd == "trace") return trace(w);
-    if (cmd == "sim") return run_sim(*this, w);
-    if (cmd == "echo") {
-        for (size_t i = 1; i < w.size(); ++i) out_ << (i > 1 ? " " : "") << w[i];
-        out_ << "\n";
-        return true;
+    if (cmd == "help" || cmd == "?") {
+        bool ok = true;
+        std::string text = help_text(w, ok);
+        return local(w, ok, text);
     }
+    if (cmd == "echo") {
+        std::vector<std::string> rest(w.begin() + 1, w.end());
+        return local(w, true, joined(rest) + "\n");
+    }
+    if (cmd == "sim" || cmd == "trace") return run_builtin(w);
+    if (cmd == "api") return run_api(w);
     return run_command(w);
 }
 
-bool Shell::help(const std::vector<std::string> &w) {
-    if (w.size() > 1) {
-        const CommandSpec *row = find_command(w[1]);
-        if (!row) {
-            out_ << "help: no command '" << w[1] << "'\n";
-            return false;
-        }
-        out_ << describe_command(*row);
-        return true;
-    }
-    out_ << "Commands (run as NAME [values in field order | field=value ...] or NAME --hex HEX;\n"
-            "the ze_adapter_cli_ prefix is optional; 'help NAME' shows the request fields):\n";
-    for (uint32_t i = 0; i < ze_host_ifm_count(); ++i) {
-        std::string name = ze_host_ifm_at(i, nullptr);
-        out_ << "  " << name.substr(std::strlen(kCliPrefix)) << "\n";
-    }
-    out_ << "Built-ins:\n"
-            "  help [NAME]            this list, or one command's request fields\n"
-            "  trace [N|clear]        the last N trace and debug records (default 20)\n"
-            "  echo TEXT              print TEXT\n"
-            "  quit                   leave the shell\n";
-    for (const SimCommand &s : sim_commands())
-        out_ << "  sim " << s.usage << "\n";
-    return true;
+bool Shell::local(const std::vector<std::string> &w, bool ok, const std::string &text) {
+    if (json_)
+        out_ << "{\"builtin\":" << json_string(w[0]) << ",\"ok\":" << (ok ? "true" : "false")
+             << ",\"printed\":" << json_string(text) << "}\n";
+    else
+        out_ << text;
+    return ok;
 }
 
-bool Shell::trace(const std::vector<std::string> &w) {
-    if (w.size() > 1 && w[1] == "clear") {
-        ze_host_trace_clear();
-        return true;
+bool Shell::refuse(const std::string &input, const std::string &message) {
+    if (json_)
+        out_ << "{\"error\":" << json_string(message) << ",\"input\":" << json_string(input) << "}\n";
+    else
+        out_ << message << "\n";
+    return false;
+}
+
+bool Shell::run_builtin(const std::vector<std::string> &w) {
+    Outcome o = exec_.run_builtin(w);
+    const bool sub = w[0] == "sim" && w.size() > 1;  // "sim log", "sim fail": the sub-command names it
+    return local({sub ? w[0] + " " + w[1] : w[0]}, o.code == 0, o.printed);
+}
+
+void Shell::result(const char *kind, const std::string &name, const Outcome &o, const std::string &fields,
+                   const std::string &json_fields) {
+    if (json_) {
+        const char *sym = result_name(o.code);
+        out_ << "{\"" << kind << "\":" << json_string(name) << ",\"result\":" << o.code
+             << ",\"name\":" << (sym ? json_string(sym) : "null")
+             << ",\"meaning\":" << json_string(result_meaning(o.code)) << ",\"" << json_fields
+             << ",\"printed\":" << json_string(o.printed) << "}\n";
+        return;
     }
-    uint64_t n = 20;
-    if (w.size() > 1 && !parse_number(w[1], n)) {
-        out_ << "usage: trace [N|clear]\n";
-        return false;
-    }
-    uint32_t count = ze_host_trace_count();
-    uint32_t first = n < count ? count - static_cast<uint32_t>(n) : 0;
-    for (uint32_t i = first; i < count; ++i) {
-        ze_host_trace_rec rec;
-        ze_host_trace_get(i, &rec);
-        char line[512];
-        ze_host_trace_format(&rec, line, sizeof line);
-        out_ << line << "\n";
-    }
-    return true;
+    out_ << o.printed;
+    if (!o.printed.empty() && o.printed.back() != '\n') out_ << "\n";  // the result starts a line of its own
+    out_ << name << ": result " << format_code(o.code) << " (" << result_meaning(o.code) << ")\n" << fields;
 }
 
 bool Shell::run_command(const std::vector<std::string> &w) {
     const CommandSpec *row = find_command(w[0]);
-    std::string full = std::string(kCliPrefix) + (row ? row->name : w[0]);
-    ze_ifm_handler_f handler = ze_host_ifm_find(full.c_str());
-    if (!row || !handler) {
-        out_ << w[0] << ": no such command (try 'help')\n";
-        return false;
+    if (!row) {
+        std::string hint = did_you_mean(w[0], command_words());
+        return refuse(joined(w), w[0] + ": no such command" + (hint.empty() ? " (try 'help')" : "; " + hint));
     }
     Request req(*row);
     std::string error;
-    if (!req.fill(std::span(w).subspan(1), error)) {
-        out_ << row->name << ": " << error << "\n";
-        return false;
-    }
-    uint32_t reply_len = kReplyUnset;
-    console_last_ = '\n';
-    uint32_t r = handler(req.data(), req.length(), &reply_len);
-    if (console_last_ != '\n') out_ << "\n";  // the result line starts a line of its own
-    out_ << row->name << ": result " << format_code(r) << " (" << result_meaning(r) << ")\n";
-    if (reply_len != kReplyUnset) out_ << req.format_reply(reply_len);
+    if (!req.fill(std::span(w).subspan(1), error)) return refuse(joined(w), std::string(row->name) + ": " + error);
+    Outcome o = exec_.run_command(kCliPrefix + std::string(row->name), std::span(req.data(), kRequestBufferSize),
+                                  req.length());
+    const bool replied = o.reply_len != kReplyUnset;
+    result("command", row->name, o, replied ? format_reply(*row, o.reply) : "",
+           "reply\":" + (replied ? json_reply(*row, o.reply) : std::string("null")));
     return true;
 }
 
-std::vector<std::string> Shell::completion_names() const {
-    std::vector<std::string> names = {"help", "trace", "echo", "quit", "sim"};
-    for (uint32_t i = 0; i < ze_host_ifm_count(); ++i) {
-        std::string name = ze_host_ifm_at(i, nullptr);
-        names.push_back(name);
-        names.push_back(name.substr(std::strlen(kCliPrefix)));
+bool Shell::run_api(const std::vector<std::string> &w) {
+    if (w.size() < 2) return refuse(joined(w), "usage: api NAME ARGS... ('help api' lists the functions)");
+    const api::Row *row = api::find(w[1]);
+    if (!row) {
+        std::vector<std::string> names;
+        for (const api::Area &a : api::areas())
+            for (const api::Row &r : a.rows) names.push_back(r.name);
+        std::string hint = did_you_mean(w[1], names);
+        return refuse(joined(w), "api: no function '" + w[1] + "'" + (hint.empty() ? " (try 'help api')" : "; " + hint));
     }
-    return names;
+    std::vector<api::Bytes> args = api::empty_args(*row);
+    std::string error;
+    if (!api::fill_args(*row, std::span(w).subspan(2), args, error))
+        return refuse(joined(w), std::string(row->name) + ": " + error);
+    Outcome o = exec_.call_api(row->name, std::move(args));
+    result("api", row->name, o, api::format_outputs(*row, o.args), "outputs\":" + api::json_outputs(*row, o.args));
+    return true;
 }
 
 }  // namespace zesh

@@ -1,22 +1,33 @@
-// The shell: runs command lines against the library's registered commands
-// and its own built-ins (help, trace, sim ...).
+// The shell: turns command lines into requests for an executor (registered
+// commands, API calls, host built-ins), runs its own built-ins (help, echo,
+// quit) and prints each outcome as text or as one JSON object per line.
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <iosfwd>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "executor.h"
+
 namespace zesh {
+
+struct CommandSpec;
+namespace api {
+struct Row;
+}
 
 class Shell {
 public:
-    explicit Shell(std::ostream &out);
-    ~Shell();
+    // Without an executor the shell runs everything in this process.
+    explicit Shell(std::ostream &out, Executor *executor = nullptr);
     Shell(const Shell &) = delete;
     Shell &operator=(const Shell &) = delete;
+
+    // One JSON object per command instead of text.
+    void set_json(bool on) { json_ = on; }
 
     // Runs one line (commands separated by ';', '#' starts a comment).
     // Returns false when a command could not be run (unknown name, bad
@@ -24,40 +35,50 @@ public:
     bool run_line(const std::string &line);
     bool quit_requested() const { return quit_; }
 
-    // Names for completion: built-ins and registered commands (both forms).
-    std::vector<std::string> completion_names() const;
-
-    std::ostream &out() { return out_; }
-
-    // Last character the library printed during the running command.
-    char console_last_ = '\n';
-
 private:
     bool run_words(const std::vector<std::string> &words);
     bool run_command(const std::vector<std::string> &words);
-    bool help(const std::vector<std::string> &words);
-    bool trace(const std::vector<std::string> &words);
+    bool run_api(const std::vector<std::string> &words);
+    bool run_builtin(const std::vector<std::string> &words);
+    bool local(const std::vector<std::string> &words, bool ok, const std::string &text);
+    bool refuse(const std::string &input, const std::string &message);
+    void result(const char *kind, const std::string &name, const Outcome &o, const std::string &fields,
+                const std::string &json_fields);
 
     std::ostream &out_;
+    std::unique_ptr<Executor> own_;
+    Executor &exec_;
+    bool json_ = false;
     bool quit_ = false;
 };
 
 // Splits a line into commands and words, honouring double quotes.
 std::vector<std::vector<std::string>> split_line(const std::string &line);
 
-// Parses a number: decimal, 0x hexadecimal or negative decimal.
-bool parse_number(const std::string &s, uint64_t &value);
-
-// The meaning of a result code, as the shell prints it.
+// The meaning and the symbolic name of a result code, as the shell prints them.
 const char *result_meaning(uint32_t code);
+const char *result_name(uint32_t code);
 
 // Built-in "sim ..." sub-commands; later areas add rows.
 struct SimCommand {
     const char *name;
     const char *usage;
-    bool (*run)(Shell &sh, const std::vector<std::string> &args);
+    bool (*run)(std::ostream &out, const std::vector<std::string> &args);
+    // It changes what the simulated driver answers outside the driver
+    // commands: a recording holds it and a replay runs it again.
+    bool replayed = false;
 };
 std::span<const SimCommand> sim_commands();
-bool run_sim(Shell &sh, const std::vector<std::string> &words);
+bool run_sim(std::ostream &out, const std::vector<std::string> &words);
+// "trace [N|clear]".
+bool run_trace(std::ostream &out, const std::vector<std::string> &words);
+
+// The shell's own built-ins and what each does, for help and completion.
+struct Builtin {
+    const char *name;
+    const char *usage;
+    const char *summary;
+};
+std::span<const Builtin> builtins();
 
 }  // namespace zesh

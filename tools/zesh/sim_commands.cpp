@@ -3,30 +3,27 @@
 #include <ostream>
 
 #include "shell.h"
+#include "values.h"
 #include "ze_host.h"
 #include "ze_sim.h"
-
-// The library's network initialisation, resolved from whichever adapter
-// library the shell is linked with; absent when none provides it.
-extern "C" uint32_t ze_lsw_port_init_network(void) __attribute__((weak));
 
 namespace zesh {
 namespace {
 
-bool need_simulator(Shell &sh) {
+bool need_simulator(std::ostream &out) {
     if (ze_host_backend_is_simulator()) return true;
-    sh.out() << "sim: the shell runs on a device node, not on the simulator\n";
+    out << "sim: the shell runs on a device node, not on the simulator\n";
     return false;
 }
 
-bool numbers(Shell &sh, const std::vector<std::string> &args, size_t from, std::vector<uint32_t> &out) {
+bool numbers(std::ostream &out, const std::vector<std::string> &args, size_t from, std::vector<uint32_t> &values) {
     for (size_t i = from; i < args.size(); ++i) {
         uint64_t v;
         if (!parse_number(args[i], v)) {
-            sh.out() << "sim: bad number '" << args[i] << "'\n";
+            out << "sim: bad number '" << args[i] << "'\n";
             return false;
         }
-        out.push_back(static_cast<uint32_t>(v));
+        values.push_back(static_cast<uint32_t>(v));
     }
     return true;
 }
@@ -42,9 +39,9 @@ std::string hex(const zesim::Bytes &b, size_t max = 24) {
     return s;
 }
 
-bool block_exists(Shell &sh, uint32_t id) {
+bool block_exists(std::ostream &out, uint32_t id) {
     if (zesim::find_block(id)) return true;
-    sh.out() << "sim: no block with command 0x" << std::hex << id << std::dec << "\n";
+    out << "sim: no block with command 0x" << std::hex << id << std::dec << "\n";
     return false;
 }
 
@@ -61,14 +58,14 @@ void with_keys(const std::vector<uint32_t> &v, size_t from, Fn &&fn) {
         fn({});
 }
 
-bool sim_reset(Shell &, const std::vector<std::string> &) {
+bool sim_reset(std::ostream &, const std::vector<std::string> &) {
     zesim::reset();
     return true;
 }
 
-bool sim_log(Shell &sh, const std::vector<std::string> &args) {
+bool sim_log(std::ostream &out, const std::vector<std::string> &args) {
     std::vector<uint32_t> n;
-    if (!numbers(sh, args, 2, n)) return false;
+    if (!numbers(out, args, 2, n)) return false;
     const auto &log = zesim::log();
     size_t count = n.empty() ? 20 : n[0];
     size_t first = count < log.size() ? log.size() - count : 0;
@@ -82,20 +79,20 @@ bool sim_log(Shell &sh, const std::vector<std::string> &args) {
             std::snprintf(line, sizeof line, "%s %s(%u) result=0x%08x",
                           e.kind == zesim::EntryKind::DpOp ? "dp" : "kcall", e.name.c_str(), e.cmd,
                           e.result);
-        sh.out() << line;
-        if (!e.sent.empty()) sh.out() << " sent=" << hex(e.sent) << " returned=" << hex(e.returned);
-        sh.out() << "\n";
+        out << line;
+        if (!e.sent.empty()) out << " sent=" << hex(e.sent) << " returned=" << hex(e.returned);
+        out << "\n";
     }
     return true;
 }
 
-bool sim_fail(Shell &sh, const std::vector<std::string> &args) {
+bool sim_fail(std::ostream &out, const std::vector<std::string> &args) {
     std::vector<uint32_t> v;
     if (args.size() < 4) {
-        sh.out() << "usage: sim fail CMD|CALL CODE [NTH]\n";
+        out << "usage: sim fail CMD|CALL CODE [NTH]\n";
         return false;
     }
-    if (!numbers(sh, args, 3, v)) return false;
+    if (!numbers(out, args, 3, v)) return false;
     uint64_t cmd;
     if (parse_number(args[2], cmd))
         zesim::fail(static_cast<uint32_t>(cmd), v[0], v.size() > 1 ? v[1] : 0);
@@ -104,126 +101,144 @@ bool sim_fail(Shell &sh, const std::vector<std::string> &args) {
     return true;
 }
 
-bool sim_clear_faults(Shell &, const std::vector<std::string> &) {
+bool sim_clear_faults(std::ostream &, const std::vector<std::string> &) {
     zesim::clear_faults();
     return true;
 }
 
-bool sim_block(Shell &sh, const std::vector<std::string> &args) {
+bool sim_block(std::ostream &out, const std::vector<std::string> &args) {
     std::vector<uint32_t> v;
-    if (args.size() < 3 || !numbers(sh, args, 2, v) || !block_exists(sh, v[0])) return false;
+    if (args.size() < 3 || !numbers(out, args, 2, v) || !block_exists(out, v[0])) return false;
     zesim::Bytes b;
     with_keys(v, 1, [&](std::initializer_list<uint32_t> k) { b = zesim::block(v[0], k); });
     char line[80];
     for (size_t off = 0; off < b.size(); off += 16) {
         std::snprintf(line, sizeof line, "%04zx:", off);
-        sh.out() << line;
+        out << line;
         for (size_t i = off; i < off + 16 && i < b.size(); i += 4) {
             uint32_t w = 0;
             for (size_t k = 0; k < 4 && i + k < b.size(); ++k) w |= uint32_t(b[i + k]) << (8 * k);
             std::snprintf(line, sizeof line, " %08x", w);
-            sh.out() << line;
+            out << line;
         }
-        sh.out() << "\n";
+        out << "\n";
     }
     return true;
 }
 
-bool sim_set(Shell &sh, const std::vector<std::string> &args) {
+bool sim_set(std::ostream &out, const std::vector<std::string> &args) {
     std::vector<uint32_t> v;
-    if (args.size() < 5 || !numbers(sh, args, 2, v) || !block_exists(sh, v[0])) {
-        if (args.size() < 5) sh.out() << "usage: sim set CMD OFFSET VALUE [KEY...]\n";
+    if (args.size() < 5 || !numbers(out, args, 2, v) || !block_exists(out, v[0])) {
+        if (args.size() < 5) out << "usage: sim set CMD OFFSET VALUE [KEY...]\n";
         return false;
     }
     uint32_t length = zesim::find_block(v[0])->length;
     if (v[1] > length || length - v[1] < 4) {
-        sh.out() << "sim: offset " << v[1] << " lies outside the " << length << "-byte block\n";
+        out << "sim: offset " << v[1] << " lies outside the " << length << "-byte block\n";
         return false;
     }
     with_keys(v, 3, [&](std::initializer_list<uint32_t> k) { zesim::set_word(v[0], v[1], v[2], k); });
     return true;
 }
 
-bool sim_blocks(Shell &sh, const std::vector<std::string> &) {
+bool sim_blocks(std::ostream &out, const std::vector<std::string> &) {
     char line[160];
     for (const zesim::Area *area : zesim::areas()) {
         for (const zesim::BlockDesc &b : area->blocks) {
             std::snprintf(line, sizeof line, "%-10s get 0x%03x set 0x%03x %5u bytes  %s\n", area->name,
                           b.get_id, b.set_id, b.length, b.name);
-            sh.out() << line;
+            out << line;
         }
         for (const zesim::ActionDesc &a : area->actions) {
             std::snprintf(line, sizeof line, "%-10s cmd 0x%03x          %5u bytes  %s\n", area->name,
                           a.id, a.length, a.name);
-            sh.out() << line;
+            out << line;
         }
     }
-    return true;
-}
-
-bool sim_init_network(Shell &sh, const std::vector<std::string> &) {
-    if (!ze_lsw_port_init_network) {
-        sh.out() << "sim: this build has no network initialisation\n";
-        return false;
-    }
-    sh.out() << "ze_lsw_port_init_network: result " << ze_lsw_port_init_network() << "\n";
     return true;
 }
 
 // "counters fill": every counter block shows where each word lies;
 // "counters set CMD OFFSET VALUE [KEY]": one 64-bit counter (low word at
 // OFFSET, high word after it).
-bool sim_counters(Shell &sh, const std::vector<std::string> &args) {
+bool sim_counters(std::ostream &out, const std::vector<std::string> &args) {
     if (args.size() == 3 && args[2] == "fill") {
         zesim::fill_counters();
         return true;
     }
     if (args.size() < 6 || args.size() > 7 || args[2] != "set") {
-        sh.out() << "usage: sim counters fill | sim counters set CMD OFFSET VALUE [KEY]\n";
+        out << "usage: sim counters fill | sim counters set CMD OFFSET VALUE [KEY]\n";
         return false;
     }
     uint64_t value;
     if (!parse_number(args[5], value)) {
-        sh.out() << "sim: bad number '" << args[5] << "'\n";
+        out << "sim: bad number '" << args[5] << "'\n";
         return false;
     }
     std::vector<uint32_t> v;
-    if (!numbers(sh, {args[3], args[4]}, 0, v) || !block_exists(sh, v[0])) return false;
+    if (!numbers(out, {args[3], args[4]}, 0, v) || !block_exists(out, v[0])) return false;
     std::vector<uint32_t> key;
-    if (args.size() == 7 && !numbers(sh, {args[6]}, 0, key)) return false;
+    if (args.size() == 7 && !numbers(out, {args[6]}, 0, key)) return false;
     const bool set = key.empty() ? zesim::set_counter(v[0], v[1], value)
                                  : zesim::set_counter(v[0], v[1], value, {key[0]});
-    if (!set) sh.out() << "sim: offset " << v[1] << " lies outside block " << v[0] << "\n";
+    if (!set) out << "sim: offset " << v[1] << " lies outside block " << v[0] << "\n";
     return set;
 }
 
+// "save FILE" / "load FILE": the stored blocks and the bracket state as a
+// text file. Faults and the log are not state: a load keeps the current ones.
+bool sim_state_file(std::ostream &out, const std::vector<std::string> &args) {
+    std::string error = "usage: sim " + args[1] + " FILE";
+    if (args.size() == 3 &&
+        (args[1] == "save" ? zesim::save_state(args[2], error) : zesim::load_state(args[2], error)))
+        return true;
+    out << "sim: " << error << "\n";
+    return false;
+}
+
+// A replayed sub-command goes into the recording as the line that ran it.
+void record_sim_line(const std::vector<std::string> &words) {
+    std::string line;
+    for (const std::string &w : words) {
+        const bool quote = w.find_first_of(" \t;#") != std::string::npos;
+        line += (line.empty() ? "" : " ") + (quote ? "\"" + w + "\"" : w);
+    }
+    ze_host_record_text(line.c_str());
+}
+
 const SimCommand kSimCommands[] = {
-    {"reset", "reset                  forget every stored block, the log and the faults", sim_reset},
+    {"reset", "reset                  forget every stored block, the log and the faults", sim_reset, true},
     {"log", "log [N]                the last N driver commands (default 20)", sim_log},
     {"fail", "fail CMD|CALL CODE [NTH]  fail a command id or named call (every time, or the NTH)",
-     sim_fail},
-    {"clear-faults", "clear-faults           remove every injected fault", sim_clear_faults},
+     sim_fail, true},
+    {"clear-faults", "clear-faults           remove every injected fault", sim_clear_faults, true},
     {"block", "block CMD [KEY...]  show a stored block as words", sim_block},
-    {"set", "set CMD OFFSET VALUE [KEY...]  change one word of a stored block", sim_set},
+    {"set", "set CMD OFFSET VALUE [KEY...]  change one word of a stored block", sim_set, true},
     {"blocks", "blocks                 list the simulated blocks and commands", sim_blocks},
-    {"init-network", "init-network           load the default bridging state (ze_lsw_port_init_network)",
-     sim_init_network},
     {"counters", "counters fill | counters set CMD OFFSET VALUE [KEY]  fill every counter block "
-     "with its offsets, or set one 64-bit counter", sim_counters},
+     "with its offsets, or set one 64-bit counter", sim_counters, true},
+    {"save", "save FILE              write the stored blocks and the bracket state to FILE "
+     "(not the faults or the log)", sim_state_file},
+    {"load", "load FILE              replace the stored blocks and the bracket state with FILE's; "
+     "a malformed file changes nothing", sim_state_file, true},
 };
 
 }  // namespace
 
 std::span<const SimCommand> sim_commands() { return kSimCommands; }
 
-bool run_sim(Shell &sh, const std::vector<std::string> &words) {
+bool run_sim(std::ostream &out, const std::vector<std::string> &words) {
     if (words.size() < 2) {
-        for (const SimCommand &s : kSimCommands) sh.out() << "sim " << s.usage << "\n";
+        for (const SimCommand &s : kSimCommands) out << "sim " << s.usage << "\n";
         return words.size() == 1;
     }
-    for (const SimCommand &s : kSimCommands)
-        if (words[1] == s.name) return need_simulator(sh) && s.run(sh, words);
-    sh.out() << "sim: no sub-command '" << words[1] << "'\n";
+    for (const SimCommand &s : kSimCommands) {
+        if (words[1] != s.name) continue;
+        if (!need_simulator(out) || !s.run(out, words)) return false;
+        if (s.replayed) record_sim_line(words);
+        return true;
+    }
+    out << "sim: no sub-command '" << words[1] << "'\n";
     return false;
 }
 
