@@ -22,7 +22,7 @@ extern const Area kEmacArea;
 extern const Area kBoardArea;
 extern const Area kStatsArea;
 
-// Little-endian word helpers for descriptor defaults and actions.
+// Native-order word helpers for descriptor defaults and actions.
 inline uint32_t get_u32(const uint8_t *b, uint32_t off) {
     uint32_t v;
     std::memcpy(&v, b + off, 4);

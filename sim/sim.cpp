@@ -11,6 +11,35 @@
 #include "ze_sim.h"
 
 namespace zesim {
+
+uint32_t load_field(const uint8_t *p, uint32_t width) {
+    switch (width) {
+        case 1: return *p;
+        case 2: {
+            uint16_t v;
+            std::memcpy(&v, p, 2);
+            return v;
+        }
+        default: {
+            uint32_t v;
+            std::memcpy(&v, p, 4);
+            return v;
+        }
+    }
+}
+
+void store_field(uint8_t *p, uint32_t width, uint32_t v) {
+    switch (width) {
+        case 1: *p = static_cast<uint8_t>(v); break;
+        case 2: {
+            uint16_t h = static_cast<uint16_t>(v);
+            std::memcpy(p, &h, 2);
+            break;
+        }
+        default: std::memcpy(p, &v, 4);
+    }
+}
+
 namespace {
 
 struct Fault {
@@ -60,18 +89,10 @@ const Index &index() {
     return idx;
 }
 
-uint32_t read_field(const uint8_t *p, uint8_t width) {
-    uint32_t v = 0;
-    std::memcpy(&v, p, width);  // little-endian host, as the target
-    return v;
-}
-
-void write_field(uint8_t *p, uint8_t width, uint32_t v) { std::memcpy(p, &v, width); }
-
 Key key_of(const BlockDesc &d, const uint8_t *src) {
     Key key{};
     for (size_t k = 0; k < key.size(); ++k)
-        if (d.keys[k].width) key[k] = read_field(src + d.keys[k].offset, d.keys[k].width);
+        if (d.keys[k].width) key[k] = load_field(src + d.keys[k].offset, d.keys[k].width);
     return key;
 }
 
@@ -91,7 +112,7 @@ Bytes key_source(const BlockDesc &d, std::initializer_list<uint32_t> keys) {
     Bytes src(d.length, 0);
     size_t k = 0;
     for (uint32_t v : keys) {
-        if (k < 3 && d.keys[k].width) write_field(src.data() + d.keys[k].offset, d.keys[k].width, v);
+        if (k < 3 && d.keys[k].width) store_field(src.data() + d.keys[k].offset, d.keys[k].width, v);
         ++k;
     }
     return src;
@@ -255,14 +276,14 @@ void require_word(const BlockDesc &d, uint32_t offset) {
 uint32_t word(uint32_t id, uint32_t offset, std::initializer_list<uint32_t> keys) {
     require_word(require_block(id), offset);
     Bytes b = block(id, keys);
-    return read_field(b.data() + offset, 4);
+    return load_field(b.data() + offset, 4);
 }
 
 void set_word(uint32_t id, uint32_t offset, uint32_t value, std::initializer_list<uint32_t> keys) {
     const BlockDesc &d = require_block(id);
     require_word(d, offset);
     Bytes src = key_source(d, keys);
-    write_field(slot(d, src.data()).data() + offset, 4, value);
+    store_field(slot(d, src.data()).data() + offset, 4, value);
 }
 
 uint8_t *stored_block(uint32_t id, const uint8_t *keysrc) {

@@ -21,7 +21,7 @@ TEST_F(Board, WrittenWordsReadBackThroughPayloadsOfTheirSizes) {
     const uint32_t words[4] = {0xa5a55a5a, 0x01020304, 0xdeadbeef, 0x7};
     for (uint32_t i = 0; i < 4; ++i) ASSERT_EQ(ze_board_write_phymem(0x3c + 4 * i, words[i]), 0u);
     EXPECT_EQ(zesim::log().back().name, "ze_kernel_misc_util_writephymem");
-    EXPECT_EQ(zesim::log().back().sent, (zesim::Bytes{0x48, 0, 0, 0, 4, 0, 0, 0, 7, 0, 0, 0}));
+    EXPECT_EQ(zesim::log().back().sent, zetest::native_words({0x48, 4, 7}));
     EXPECT_EQ(traces().back().module, 0xf8005500u);
     EXPECT_STREQ(traces().back().file, "../board/ze_board.cpp");
     std::vector<uint8_t> buf(20, 0xee);
@@ -29,7 +29,7 @@ TEST_F(Board, WrittenWordsReadBackThroughPayloadsOfTheirSizes) {
     const auto &r = zesim::log().back();
     EXPECT_EQ(r.name, "ze_kernel_misc_util_readphymem");
     ASSERT_EQ((std::vector<size_t>{r.cmd, r.sent.size()}), (std::vector<size_t>{24, 24})) << "sent with the length + 8";
-    EXPECT_EQ(zesim::Bytes(r.sent.begin(), r.sent.begin() + 12), (zesim::Bytes{0x3c, 0, 0, 0, 16, 0, 0, 0, 0, 0, 0, 0}))
+    EXPECT_EQ(zesim::Bytes(r.sent.begin(), r.sent.begin() + 12), zetest::native_words({0x3c, 16, 0}))
         << "address, length, then a zero word";
     EXPECT_EQ(std::memcmp(buf.data(), words, 16), 0);
     EXPECT_EQ(buf[16], 0xee) << "only the length is copied";

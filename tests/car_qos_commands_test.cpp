@@ -8,6 +8,8 @@ using zetest::Words;
 using CarQosCommands = zetest::RateTest;
 
 TEST_F(CarQosCommands, RequestFieldsReachTheApiAndOutputsLandInTheBuffer) {
+    ZE_LITTLE_ENDIAN_LAYOUT("the requests pack 16-bit and byte fields into words, and the queue count "
+                            "lands in the first byte of its word");
     flow(6, 40, zetest::kUp);
     zesim::set_word(2577, 8, 55, {7});
     zesim::set_word(0xa02, 12, 9, {5});

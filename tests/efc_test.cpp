@@ -31,6 +31,7 @@ uint16_t install(const ze_efc_rule_s &r, uint32_t first = 1, const ze_efc_action
 // Key items of representative rules (item words are m1, m0, g1, g0, k1, k0)
 // and, when given, the first debug lines of the conversion.
 TEST_F(EfcTest, RuleToKeyItems) {
+    ZE_LITTLE_ENDIAN_LAYOUT("key values are the rule's bytes copied into key words in memory order");
     auto check = [&](const char *name, const ze_efc_rule_s &r, const std::vector<ze_efc_item_s> &want,
                      uint32_t g0status, const std::vector<std::string> &want_lines = {}) {
         ze_host_trace_clear();
@@ -135,6 +136,7 @@ TEST_F(EfcTest, RuleRangeWalksBackToThePreviousRule) {
 // One block per item with eof on the last; a rule without keys still takes
 // one entry.
 TEST_F(EfcTest, InstallWritesOneBlockPerItemWithEofOnTheLast) {
+    ZE_LITTLE_ENDIAN_LAYOUT("key values are the rule's bytes copied into key words in memory order");
     ze_efc_action_s a = action((1u << 12) | (1u << 2));
     a.egress_port = 5, a.ext = 0x11, a.spri = 3, a.svlan = 200;
     EXPECT_EQ(install(three_singles(1u << 0, 1, 2), 1, a, 4), 2);

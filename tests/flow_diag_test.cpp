@@ -52,6 +52,7 @@ TEST_F(FlowDiagTest, SfcListingShowsModesOredAndTheGemPort) {
 }
 
 TEST_F(FlowDiagTest, EfcListingRepeatsKeysInDecimalAndActionsInHex) {
+    ZE_LITTLE_ENDIAN_LAYOUT("the listed key words hold the rule's key bytes in memory order");
     ze_efc_rule_s r = ip_rule(0x0a000001);
     r.key_mask |= 1u << 15;
     r.key15 = 2;

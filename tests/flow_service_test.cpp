@@ -77,6 +77,7 @@ TEST_F(FlowServiceTest, DeleteAllRemovesServicesBeforeMappings) {
 }
 
 TEST_F(FlowServiceTest, IgmpPriorityService) {
+    ZE_LITTLE_ENDIAN_LAYOUT("the key value's byte is copied into the k0 word in memory order");
     ASSERT_EQ(ze_lsw_flow_change_igmp_pri(6), 0u);
     auto w = entries_of(0x505);
     ASSERT_EQ(w.size(), 1u);
@@ -93,7 +94,7 @@ TEST_F(FlowServiceTest, ServiceAndMappingCommands) {
     std::memcpy(svc, &r, sizeof r);
     uint32_t reply = 0;
     ASSERT_EQ(call("ze_adapter_cli_flow_add_service", svc, 108, &reply), 0u);
-    EXPECT_EQ(svc[104], 1);
+    EXPECT_EQ(zesim::load_field(svc + 104, 2), 1u);
     EXPECT_EQ(call("ze_adapter_cli_flow_del_service", svc, 108, &reply), 0u);
     EXPECT_EQ(call("ze_adapter_cli_flow_del_service", svc, 108, &reply), 0xffffffffu);
 
@@ -103,7 +104,7 @@ TEST_F(FlowServiceTest, ServiceAndMappingCommands) {
     st_sfcmapping[0].status = 1;
     ASSERT_EQ(call("ze_adapter_cli_flow_add_mapping", map, 24, &reply), 0u);
     EXPECT_EQ(map[8], 0x1f);
-    EXPECT_EQ(map[22], 1);  // the sfid
+    EXPECT_EQ(zesim::load_field(map + 22, 2), 1u);  // the sfid
     EXPECT_EQ(call("ze_adapter_cli_flow_del_mapping", map, 20, &reply), 0u);
     EXPECT_EQ(call("ze_adapter_cli_flow_del_all", nullptr, 0, nullptr), 0u);  // request not looked at
 }

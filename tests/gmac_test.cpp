@@ -78,13 +78,15 @@ TEST_F(GmacTest, FecIsReadBySelector) {
 
 // The GEM port travels at offset 2 and its T-CONT at 4, both ways.
 TEST_F(GmacTest, GemPortCommandLayouts) {
-    uint8_t set[8] = {4, 0, 0xe9, 0x03, 2, 0, 0, 0};  // index 4, GEM port 1001, T-CONT 2
+    uint8_t set[8];  // index 4, GEM port 1001, T-CONT 2
+    zesim::store_field(set, 2, 4), zesim::store_field(set + 2, 2, 1001), zesim::store_field(set + 4, 4, 2);
     uint32_t reply = 0;
     ASSERT_EQ(call("ze_adapter_cli_gmac_set_gemport", set, 8, &reply), 0u);
     EXPECT_EQ(zesim::word(0xb04, 4, {4}), 1001u);
-    uint8_t get[8] = {4, 0, 0, 0, 0, 0, 0, 0};
+    uint8_t get[8] = {};
+    zesim::store_field(get, 2, 4);
     ASSERT_EQ(call("ze_adapter_cli_gmac_get_gemport", get, 8, &reply), 0u);
-    EXPECT_EQ(get[2] | get[3] << 8, 1001);
+    EXPECT_EQ(zesim::load_field(get + 2, 2), 1001u);
     EXPECT_EQ(get[4], 2);
 }
 

@@ -35,11 +35,17 @@ TEST_F(Igmp, EveryValueRoundTripsThroughItsOwnKernelCalls) {
 TEST_F(Igmp, GroupVlanKeepsItsSpellingAndLayout) {
     ASSERT_EQ(ze_igmp_add_gourpvlan_ip(100, 200, 0xe0000001, 0xe00000ff), 0u);
     EXPECT_EQ(last_call().name, "ze_kernel_igmp_add_groupvlan_ip");
-    // The second VLAN in the low half of the first word, the first above it, then both addresses.
-    EXPECT_EQ(last_call().sent, (zesim::Bytes{200, 0, 100, 0, 0x01, 0, 0, 0xe0, 0xff, 0, 0, 0xe0}));
+    // The second VLAN, then the first, 16 bits each, then both addresses.
+    const auto payload = [](uint32_t vlan, uint32_t group_vlan, uint32_t addr1, uint32_t addr2) {
+        zesim::Bytes b(12);
+        zesim::store_field(&b[0], 2, vlan), zesim::store_field(&b[2], 2, group_vlan);
+        zesim::store_field(&b[4], 4, addr1), zesim::store_field(&b[8], 4, addr2);
+        return b;
+    };
+    EXPECT_EQ(last_call().sent, payload(200, 100, 0xe0000001, 0xe00000ff));
     ASSERT_EQ(ze_igmp_del_gourpvlan_ip(100), 0u);
     EXPECT_EQ(last_call().name, "ze_kernel_igmp_del_groupvlan_ip");
-    EXPECT_EQ(last_call().sent, (zesim::Bytes{0, 0, 100, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(last_call().sent, payload(0, 100, 0, 0));
 }
 
 TEST_F(Igmp, InterfaceNameIsCutToSixteenBytesWithoutTerminator) {

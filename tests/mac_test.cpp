@@ -16,7 +16,7 @@ protected:
         zesim::Bytes b(36, 0);
         std::memcpy(b.data(), &index, 4); std::memcpy(b.data() + 4, mac, 6);
         std::memcpy(b.data() + 12, &vlan, 4); std::memcpy(b.data() + 24, &egress, 4);
-        b[28] = b[32] = 1;  // age_en, valid
+        zesim::store_field(b.data() + 28, 4, 1), zesim::store_field(b.data() + 32, 4, 1);  // age_en, valid
         zesim::store(0x704, b);
     }
 };

@@ -70,7 +70,8 @@ TEST_F(NetworkInitTest, LeavesTheDefaultBridgingState) {
     for (uint32_t p = 0; p < 5; ++p) {
         const zesim::Bytes uni = zesim::block(0x320, {p});
         for (auto [off, v] : {std::pair{4u, 1u}, {16u, 0u}, {68u, 1u}, {72u, 8u}, {84u, 0x8100u}, {88u, 1u},
-                              {8u, p == 0 ? 2u : 7u}, {24u, p == 0 ? 0xffffffffu : 0xffffffdbu}})
+                              {8u, p == 0 ? 2u : 7u},
+                              {24u, p == 0 ? 0xffffffffu : word_at(zesim::Bytes{0xdb, 0xff, 0xff, 0xff}, 0)}})
             EXPECT_EQ(word_at(uni, off), v) << "port " << p << " @" << off;
     }
     const struct {

@@ -42,8 +42,8 @@ TEST_F(PmCommands, BufferWordCommandsTakeTheEveryInstancePath) {
 // byte, a port word) over counters the shell fills and sets: a set 64-bit
 // counter prints as high word * 2^32 + low word.
 TEST_F(PmCommands, ArgumentsReachTheApiOverCountersTheShellSets) {
-    EXPECT_EQ(run("get_epon_bandwidth_statistic", {1, 0, 0, 0, 2, 0, 0, 0}), 0u);
-    EXPECT_EQ(zetest::entries_of(3590).back().sent, (zesim::Bytes{1, 0, 0, 0, 2, 0, 0, 0}));
+    EXPECT_EQ(run("get_epon_bandwidth_statistic", zetest::native_words({1, 2})), 0u);
+    EXPECT_EQ(zetest::entries_of(3590).back().sent, zetest::native_words({1, 2}));
     std::ostringstream out;  // the library's console too, while the shell lives
     zesh::Shell sh(out);
     EXPECT_TRUE(sh.run_line("sim counters fill"));
@@ -51,7 +51,7 @@ TEST_F(PmCommands, ArgumentsReachTheApiOverCountersTheShellSets) {
     EXPECT_EQ(run("get_epon_tx_statistic", {3}), 0u);
     EXPECT_NE(out.str().find("llid_tx_data_byte                003: "), std::string::npos);
     EXPECT_TRUE(sh.run_line("sim counters set 802 8 0x1ffffffff 2"));
-    EXPECT_EQ(run("get_uni_eth_statistic", {2, 0, 0, 0}), 0u);
+    EXPECT_EQ(run("get_uni_eth_statistic", zetest::native_words({2})), 0u);
     EXPECT_NE(out.str().find("ul_rx                            : 8589934591       | "),
               std::string::npos);
     EXPECT_TRUE(sh.run_line("sim counters set 3333 12 0x100000005"));  // the block's last word

@@ -208,10 +208,14 @@ TEST_F(Port, CommandsPassTheirFieldsInOrder) {
     EXPECT_EQ(zesim::word(0x320, 80, {2}), 0x33u);
     tag[3] = 0;
     EXPECT_EQ((Ids{call("ze_adapter_cli_lsw_port_get_tag_act", tag, 16, &reply), tag[3]}), (Ids{0, 0x33}));
-    uint32_t pri[2] = {3, 0xffffff06};
-    ASSERT_EQ(call("ze_adapter_cli_lsw_port_set_pri", pri, 8, &reply), 0u);
-    pri[1] = 0xaaaaaaaa;  // only the priority byte is written
-    EXPECT_EQ((Ids{call("ze_adapter_cli_lsw_port_get_pri", pri, 8, &reply), pri[1]}), (Ids{0, 0xaaaaaa06}));
+    uint32_t set_pri[2] = {3, 0xffffff06};  // the set takes a word, the get replies a byte
+    ASSERT_EQ(call("ze_adapter_cli_lsw_port_set_pri", set_pri, 8, &reply), 0u);
+    struct {
+        uint32_t port;
+        uint8_t priority, pad[3];
+    } pri = {3, 0xaa, {0xaa, 0xaa, 0xaa}};  // only the priority byte is written
+    EXPECT_EQ((Ids{call("ze_adapter_cli_lsw_port_get_pri", &pri, 8, &reply), pri.priority, pri.pad[0], pri.pad[2]}),
+              (Ids{0, 6, 0xaa, 0xaa}));
 }
 
 TEST_F(Port, PauseTimeAndPhyAnswerWithoutTouchingAnything) {

@@ -29,7 +29,7 @@ TEST_F(ShellTest, RunsCommandsWithOrWithoutPrefix) {
 TEST_F(ShellTest, FieldsByNameAndRawHex) {
     run("chip_set_access_mode mode=0x1f");
     EXPECT_EQ(zesim::word(0x100, 8), 0x1fu);
-    run("chip_set_access_mode --hex 05000000");
+    run(std::string("chip_set_access_mode --hex ") + (zetest::kBigEndian ? "00000005" : "05000000"));
     EXPECT_EQ(zesim::word(0x100, 8), 5u);
 }
 

@@ -35,6 +35,11 @@ inline constexpr uint32_t kErrUnknownCall = 0xf0000105;     // unknown named ker
 inline constexpr uint32_t kCmdOpen = 0;
 inline constexpr uint32_t kCmdClose = 1;
 
+// An unsigned field of 1, 2 or 4 bytes, in the processor's native order as
+// the driver's blocks and the commands' request structures hold it.
+uint32_t load_field(const uint8_t *p, uint32_t width);
+void store_field(uint8_t *p, uint32_t width, uint32_t v);
+
 struct KeyField {
     uint16_t offset;
     uint8_t width;  // 1, 2 or 4 bytes

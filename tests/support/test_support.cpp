@@ -65,6 +65,13 @@ uint32_t word_at(const zesim::Bytes &b, uint32_t offset) {
     return v;
 }
 
+zesim::Bytes native_words(std::initializer_list<uint32_t> words) {
+    zesim::Bytes b(4 * words.size());
+    uint8_t *p = b.data();
+    for (uint32_t w : words) p = static_cast<uint8_t *>(std::memcpy(p, &w, 4)) + 4;
+    return b;
+}
+
 std::string row_name(const ::testing::TestParamInfo<zesh::CommandSpec> &info) { return info.param.name; }
 
 std::vector<zesim::LogEntry> entries_of(uint32_t cmd) {

@@ -5,7 +5,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cstdint>
+#include <initializer_list>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -41,8 +43,18 @@ protected:
     std::string console_;
 };
 
-// Little-endian word of a byte vector.
+// Blocks and request structures hold their words in the processor's native
+// order; tests that lay out or read bytes build them from native words.
 uint32_t word_at(const zesim::Bytes &b, uint32_t offset);
+zesim::Bytes native_words(std::initializer_list<uint32_t> words);
+inline constexpr bool kBigEndian = std::endian::native == std::endian::big;
+
+// A test whose expectations are written as a little-endian processor's words
+// (byte and 16-bit fields packed into words, or the library placing bytes in
+// memory order, as an EFC key value copied into a key word): on a big-endian
+// processor it is skipped with a message naming what differs.
+#define ZE_LITTLE_ENDIAN_LAYOUT(what) \
+    if (zetest::kBigEndian) GTEST_SKIP() << "big-endian processors see other words: " << what
 
 // The ioctl log entries of one command id.
 std::vector<zesim::LogEntry> entries_of(uint32_t cmd);
