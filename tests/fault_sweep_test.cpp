@@ -218,7 +218,9 @@ std::string violation(const Expected &want, uint32_t code, const Call &fine, con
     Tables gone;
     if (want.shadow == Shadow::GemFirst) may_hold.push_back(&(gone = gem_ports_gone(r.before)));
     const auto tables = zetest::shadow_tables();
-    for (size_t t = 0; t < tables.size(); ++t)
+    for (size_t t = 0; t < tables.size(); ++t) {
+        if (std::any_of(may_hold.begin(), may_hold.end(), [&](const Tables *m) { return (*m)[t] == r.after[t]; }))
+            continue;
         for (size_t b = 0; b < r.after[t].size(); ++b) {
             bool held = false;
             for (const Tables *m : may_hold) held = held || (*m)[t][b] == r.after[t][b];
@@ -227,6 +229,7 @@ std::string violation(const Expected &want, uint32_t code, const Call &fine, con
                        hex(r.after[t][b]) + " (before the call " + hex(r.before[t][b]) + ", after it without faults " +
                        hex(fine.after[t][b]) + ")";
         }
+    }
     return {};
 }
 
