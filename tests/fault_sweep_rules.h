@@ -57,10 +57,11 @@ inline constexpr Rule kIgnored{Result::Ignored, Shadow::AsWithout};
 inline constexpr Rule kPassedOn{Result::PassedOn};
 
 // ze_gmac_del_gemport maps the result of its own read of the mapping once
-// more; its callers map everything it returns once more.
+// more, so the driver's 0xf0000101 there comes back as 0xffffffff (on its
+// writes as 18); its callers map everything it returns once more.
 inline constexpr Step kGemReadRemapped[] = {{"0xb04", 0, Result::Folded}};
-inline constexpr Step kGemRemovalRemapped[] = {
-    {"0xb04", 0, Result::Folded}, {"0xb05", 0, Result::Folded}, {"0x202", 0, Result::Folded}, {"0x203", 0, Result::Folded}};
+inline constexpr Step kGemRemovalRemapped[] = {{"0xb04", 0, Result::Folded}, {"0xb05", 0, Result::Folded},
+                                               {"0x202", 0, Result::Folded}, {"0x203", 0, Result::Folded}};
 // The flow CAR's profile check answers 0xffffffff for a failed read.
 inline constexpr Step kProfileCheck[] = {{"0xa0b", 1, Result::Folded}};
 // The start-up's profile writes answer 0xffffffff whatever the driver said.
@@ -72,8 +73,10 @@ inline constexpr Step kWredRead[] = {{"0xa17", 0, Result::Ignored}};
 // The route walk's release of the datapath is not looked at.
 inline constexpr Step kRightRelease[] = {{"ze_dp_right_release", 0, Result::Ignored}};
 
-inline constexpr Rule kDropsSteps{Result::Mapped, Shadow::KeepsDone};
-inline constexpr Rule kFoldedDropsSteps{Result::Folded, Shadow::KeepsDone};
+// Installs and removals of several steps that leave the steps done before a
+// failure in place.
+inline constexpr Rule kKeepsDone{Result::Mapped, Shadow::KeepsDone};
+inline constexpr Rule kFoldedKeepsDone{Result::Folded, Shadow::KeepsDone};
 inline constexpr Rule kFoldedGemFirst{Result::Folded, Shadow::GemFirst};
 
 inline constexpr FunctionRule kFunctionRules[] = {
@@ -120,22 +123,23 @@ inline constexpr FunctionRule kFunctionRules[] = {
     {"ze_lsw_vlan_bc_del_port", kGetModifySet}, {"ze_lsw_vlan_bc_get_port", kGetModifySet},
     {"ze_lsw_vlan_display_bcegrs", kGetModifySet}, {"ze_lsw_vlan_get_hybrid_tagmode", kGetModifySet},
     {"ze_lsw_vlan_set_hybrid_tagmode", kGetModifySet}, {"ze_lsw_vlan_get_vlanfilter", kGetModifySet},
-    {"ze_lsw_vlan_set_vlanfilter", kGetModifySet}, {"ze_lsw_vlan_del_all_cfg", {Result::Ignored, Shadow::KeepsDone}},  // a failed removal keeps its VLAN's entry
+    {"ze_lsw_vlan_set_vlanfilter", kGetModifySet},
+    {"ze_lsw_vlan_del_all_cfg", {Result::Ignored, Shadow::KeepsDone}},  // a failed removal keeps its VLAN's entry
     {"ze_lsw_vlan_diagnose", kIgnored},
     // Services, mappings and the two classifiers.
-    {"ze_lsw_flow_add_service", kFoldedDropsSteps}, {"ze_lsw_flow_del_service", kIgnored},
+    {"ze_lsw_flow_add_service", kFoldedKeepsDone}, {"ze_lsw_flow_del_service", kIgnored},
     {"ze_lsw_flow_del_fid", kIgnored}, {"ze_lsw_flow_add_mapping", kFolded},
     {"ze_lsw_flow_del_mapping", kFoldedGemFirst}, {"ze_lsw_flow_del_mapping_by_sfid", kFoldedGemFirst},
-    {"ze_lsw_flow_del_all", kFoldedGemFirst}, {"ze_lsw_flow_change_igmp_pri", kFoldedDropsSteps},
+    {"ze_lsw_flow_del_all", kFoldedGemFirst}, {"ze_lsw_flow_change_igmp_pri", kFoldedKeepsDone},
     {"ze_lsw_flow_diagnose", kIgnored}, {"ze_lsw_flow_set_sfc", kGetModifySet},
     {"ze_lsw_flow_delete_sfc", kGetModifySet},
     {"ze_lsw_flow_sfc_delete_all", {Result::Mapped, Shadow::GemFirst, kGemRemovalRemapped}},
-    {"ze_lsw_flow_gemmap_delete_all", kFoldedDropsSteps}, {"ze_lsw_flow_set_efc", kDropsSteps},
+    {"ze_lsw_flow_gemmap_delete_all", kFoldedKeepsDone}, {"ze_lsw_flow_set_efc", kKeepsDone},
     {"ze_lsw_flow_delete_efc", kIgnored}, {"ze_lsw_flow_efc_delete_all", kGetModifySet},
     {"ze_lsw_flow_sfc_diagnose", kGetModifySet}, {"ze_lsw_flow_efc_diagnose", kGetModifySet},
     // Rate limiting.
     {"ze_lsw_car_set_flow_car", {Result::Mapped, Shadow::Unchanged, kProfileCheck}},
-    {"ze_lsw_car_get_flow_car", kGetModifySet}, {"ze_lsw_car_set_gemport_car", kDropsSteps},
+    {"ze_lsw_car_get_flow_car", kGetModifySet}, {"ze_lsw_car_set_gemport_car", kKeepsDone},
     {"ze_lsw_car_get_gemport_car", kGetModifySet}, {"ze_lsw_car_set_efc_car", kGetModifySet},
     {"ze_lsw_car_get_efc_car", kGetModifySet}, {"ze_lsw_car_set_simple_car", kGetModifySet},
     {"ze_lsw_car_get_simple_car", kGetModifySet}, {"ze_lsw_car_set_protocol_paket_action", kGetModifySet},
