@@ -12,6 +12,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
@@ -205,10 +206,10 @@ bool RawClient::closed_by_daemon() {
 
 std::vector<uint8_t> frame(uint16_t kind, const std::vector<uint8_t> &body, uint32_t tag, uint16_t version,
                            uint32_t flags) {
-    std::vector<uint8_t> f(ZE_IFM_HEADER_SIZE);
+    std::vector<uint8_t> f(ZE_IFM_HEADER_SIZE + body.size());
     ze_ifm_put_header(f.data(), static_cast<uint32_t>(body.size()), kind, tag, flags);
     ze_ifm_put16(&f[4], version);
-    f.insert(f.end(), body.begin(), body.end());
+    std::copy(body.begin(), body.end(), f.begin() + ZE_IFM_HEADER_SIZE);
     return f;
 }
 

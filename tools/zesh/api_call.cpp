@@ -79,7 +79,7 @@ std::vector<Slot> slots_of(const Row &row) {
                 f.offset += e * p.size;
                 f.dir = dir_of(p.role);
                 f.optional = true;
-                f.fallback = "0";
+                f.fallback.assign(1, '0');
                 out.push_back({i, f});
             }
         }
@@ -248,7 +248,7 @@ std::string format_outputs(const Row &row, const std::vector<Bytes> &args) {
 std::string json_outputs(const Row &row, const std::vector<Bytes> &args) {
     std::string s;
     each_output(row, args, [&](const Field &f, const uint8_t *base) {
-        s += (s.empty() ? "" : ",") + json_string(f.name) + ":" + json_value(f, base);
+        add_json_member(s, f.name, json_value(f, base));
     });
     return "{" + s + "}";
 }
@@ -263,12 +263,18 @@ std::string usage_of(const Row &row) {
     std::string s = row.name;
     for (const Param &p : row.params) {
         if (!is_input(p.role)) continue;
-        if (p.fields)
-            s += " [" + std::string(p.name) + (p.count > 1 ? "[i]" : "") + ".FIELD=VALUE ...]";
-        else if (p.count > 1)
-            s += " " + element_name(p, 0) + " ... " + element_name(p, p.count - 1);
-        else
-            s += std::string(" ") + p.name;
+        s += ' ';
+        if (p.fields) {
+            s += '[';
+            s += p.name;
+            s += p.count > 1 ? "[i].FIELD=VALUE ...]" : ".FIELD=VALUE ...]";
+        } else if (p.count > 1) {
+            s += element_name(p, 0);
+            s += " ... ";
+            s += element_name(p, p.count - 1);
+        } else {
+            s += p.name;
+        }
     }
     return s;
 }

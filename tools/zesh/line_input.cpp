@@ -41,7 +41,8 @@ namespace {
 std::vector<std::string> g_matches;
 std::string g_history;
 bool g_done = false;
-std::optional<std::string> g_line;
+bool g_ended = false;  // Ctrl-D on an empty line, or the input closed
+std::string g_line;
 
 char *next_match(const char *, int state) {
     static size_t i;
@@ -62,8 +63,8 @@ char **complete(const char *text, int start, int) {
 
 void on_line(char *line) {
     g_done = true;
-    g_line.reset();
-    if (line) g_line = line;
+    g_ended = !line;
+    g_line.assign(line ? line : "");
     std::free(line);
     rl_callback_handler_remove();
 }
@@ -98,8 +99,9 @@ std::optional<std::string> read_line(const char *prompt) {
         rl_callback_handler_remove();  // Ctrl-C: the half-typed line is dropped
         std::cout << "\n" << std::flush;
     }
-    if (g_line && !g_line->empty()) {
-        add_history(g_line->c_str());
+    if (g_ended) return std::nullopt;
+    if (!g_line.empty()) {
+        add_history(g_line.c_str());
         if (!g_history.empty()) write_history(g_history.c_str());
     }
     return g_line;

@@ -124,7 +124,7 @@ std::string json_reply(const CommandSpec &row, std::span<const uint8_t> reply) {
     std::string s;
     for (const Field &f : fields_of(row))
         if (replied(f, reply.size()))
-            s += (s.empty() ? "" : ",") + json_string(f.name) + ":" + json_value(f, reply.data());
+            add_json_member(s, f.name, json_value(f, reply.data()));
     return "{" + s + "}";
 }
 

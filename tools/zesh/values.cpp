@@ -232,6 +232,13 @@ std::string json_value(const Field &f, const uint8_t *base) {
     return json_string(text.substr(f.name.size() + 3));
 }
 
+void add_json_member(std::string &members, const std::string &name, const std::string &value) {
+    if (!members.empty()) members += ',';
+    members += json_string(name);
+    members += ':';
+    members += value;
+}
+
 std::string json_string(const std::string &s) {
     std::string out = "\"";
     for (unsigned char c : s) {

@@ -32,6 +32,9 @@ std::string accepted_values(const Field &f);
 
 // A JSON string literal of `s`.
 std::string json_string(const std::string &s);
+// Appends the member "name":value (a JSON value already) to an object's
+// members, with the comma that separates it from those before.
+void add_json_member(std::string &members, const std::string &name, const std::string &value);
 
 // Up to three of `candidates` closest to `word` by edit distance, as
 // "did you mean a, b?" (empty when none is close).

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <string>
 #include <string_view>
@@ -64,8 +65,8 @@ public:
         out_.resize(out_.size() + 4);
         ze_ifm_put32(&out_[out_.size() - 4], v);
     }
-    void bytes(std::span<const uint8_t> b) { out_.insert(out_.end(), b.begin(), b.end()); }
-    void bytes(std::string_view s) { out_.insert(out_.end(), s.begin(), s.end()); }
+    void bytes(std::span<const uint8_t> b) { append(b.data(), b.size()); }
+    void bytes(std::string_view s) { append(s.data(), s.size()); }
     void text(std::string_view s) {
         u8(static_cast<uint32_t>(s.size()));
         bytes(s);
@@ -77,6 +78,12 @@ public:
     Bytes take() { return std::move(out_); }
 
 private:
+    void append(const void *p, size_t n) {
+        const size_t at = out_.size();
+        out_.resize(at + n);
+        if (n) std::memcpy(out_.data() + at, p, n);
+    }
+
     Bytes out_;
 };
 
