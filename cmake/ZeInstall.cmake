@@ -1,6 +1,7 @@
 # What `cmake --install` puts where, by component:
-#   runtime  the shared object with its SONAME and version links
-#   devel    public headers, the unversioned link, pkg-config file, CMake package
+#   runtime  the shared objects (the library and the interface manager's C
+#            client) with their SONAMEs and version links
+#   devel    public headers, the unversioned links, pkg-config files, CMake package
 #   host     the PC stand-ins for the terminal: host platform libraries and
 #            their headers and pkg-config files, the simulator, zesh and its
 #            man page
@@ -59,6 +60,18 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/cmake/ze_adapterConfigVer
 install(FILES ${PROJECT_BINARY_DIR}/cmake/ze_adapterConfig.cmake
   ${PROJECT_BINARY_DIR}/cmake/ze_adapterConfigVersion.cmake
   DESTINATION ${ZE_INSTALL_CMAKEDIR} COMPONENT devel)
+
+# ---- The interface manager's C client ----------------------------------------
+# Installed with the library: a management process on the terminal or a PC
+# calls commands of a `zesh serve` daemon through it.
+ze_install_library(ze_ifm_wire EXPORT ze_adapter-targets RUNTIME devel DEVEL devel
+  HEADER_DIR ze_adapter HEADERS ${PROJECT_SOURCE_DIR}/client/include/ze_ifm_wire.h)
+ze_install_library(ze_ifm_client EXPORT ze_adapter-targets RUNTIME runtime DEVEL devel
+  HEADER_DIR ze_adapter HEADERS ${PROJECT_SOURCE_DIR}/client/include/ze_ifm_client.h)
+ze_install_pkgconfig(ze_ifm_client COMPONENT devel
+  DESCRIPTION "C client of the switch adapter's interface manager daemon"
+  CFLAGS "-I\${includedir}/ze_adapter"
+  LIBS "-L\${libdir} -lze_ifm_client")
 
 # ---- Host tools --------------------------------------------------------------
 if(ZE_BUILD_HOST_TOOLS)

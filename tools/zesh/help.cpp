@@ -10,17 +10,17 @@
 
 namespace zesh {
 
-namespace {
-
-std::string line(const char *name, const char *summary) {
+std::string help_line(const char *usage, const char *summary) {
     char buf[256];
-    std::snprintf(buf, sizeof buf, "  %-36s %s\n", name, summary);
+    std::snprintf(buf, sizeof buf, "  %-36s %s\n", usage, summary);
     return buf;
 }
 
+namespace {
+
 std::string family_text(const Family &f) {
     std::string s = std::string(f.name) + ": " + f.summary + "\n";
-    for (const CommandSpec &c : f.commands) s += line(c.name, c.summary);
+    for (const CommandSpec &c : f.commands) s += help_line(c.name, c.summary);
     return s;
 }
 
@@ -31,8 +31,8 @@ std::string overview() {
         "'help FAMILY' one family, 'help api' the API functions.\n";
     for (const Family &f : families()) s += family_text(f);
     s += "Built-ins:\n";
-    for (const Builtin &b : builtins()) s += line(b.usage, b.summary);
-    for (const SimCommand &c : sim_commands()) s += "  sim " + std::string(c.usage) + "\n";
+    for (const Builtin &b : builtins()) s += help_line(b.usage, b.summary);
+    for (const SimCommand &c : sim_commands()) s += help_line(c.usage, c.summary);
     return s;
 }
 
@@ -40,7 +40,7 @@ std::string api_overview() {
     std::string s = "API functions by area: api NAME ARGS...; 'help api NAME' shows one.\n";
     for (const api::Area &a : api::areas()) {
         s += std::string(a.name) + ": " + a.summary + "\n";
-        for (const api::Row &r : a.rows) s += line(r.name, r.summary);
+        for (const api::Row &r : a.rows) s += help_line(r.name, r.summary);
     }
     return s;
 }

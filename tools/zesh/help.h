@@ -11,6 +11,9 @@ namespace zesh {
 // topic is unknown.
 std::string help_text(const std::vector<std::string> &words, bool &ok);
 
+// One line of a help listing: the usage in a column, then the summary.
+std::string help_line(const char *usage, const char *summary);
+
 // Every word that "help" takes as a topic.
 std::vector<std::string> help_topics();
 

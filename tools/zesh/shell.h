@@ -66,7 +66,8 @@ const char *result_name(uint32_t code);
 // Built-in "sim ..." sub-commands; later areas add rows.
 struct SimCommand {
     const char *name;
-    const char *usage;
+    const char *usage;    // "sim NAME ARGS"
+    const char *summary;  // one line: what it does
     bool (*run)(std::ostream &out, const std::vector<std::string> &args);
     // It changes what the simulated driver answers outside the driver
     // commands: a recording holds it and a replay runs it again.

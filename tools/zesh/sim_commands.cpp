@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <ostream>
 
+#include "help.h"
 #include "shell.h"
 #include "values.h"
 #include "ze_host.h"
@@ -198,20 +199,20 @@ bool sim_state_file(std::ostream &out, const std::vector<std::string> &args) {
 
 
 const SimCommand kSimCommands[] = {
-    {"reset", "reset                  forget every stored block, the log and the faults", sim_reset, true},
-    {"log", "log [N]                the last N driver commands (default 20)", sim_log},
-    {"fail", "fail CMD|CALL CODE [NTH]  fail a command id or named call (every time, or the NTH)",
+    {"reset", "sim reset", "forget every stored block, the log and the faults", sim_reset, true},
+    {"log", "sim log [N]", "the last N driver commands (default 20)", sim_log},
+    {"fail", "sim fail CMD|CALL CODE [NTH]", "fail a command id or named call (every time, or the NTH)",
      sim_fail, true},
-    {"clear-faults", "clear-faults           remove every injected fault", sim_clear_faults, true},
-    {"block", "block CMD [KEY...]  show a stored block as words", sim_block},
-    {"set", "set CMD OFFSET VALUE [KEY...]  change one word of a stored block", sim_set, true},
-    {"blocks", "blocks                 list the simulated blocks and commands", sim_blocks},
-    {"counters", "counters fill | counters set CMD OFFSET VALUE [KEY]  fill every counter block "
-     "with its offsets, or set one 64-bit counter", sim_counters, true},
-    {"save", "save FILE              write the stored blocks and the bracket state to FILE "
-     "(not the faults or the log)", sim_state_file},
-    {"load", "load FILE              replace the stored blocks and the bracket state with FILE's; "
-     "a malformed file changes nothing", sim_state_file, true},
+    {"clear-faults", "sim clear-faults", "remove every injected fault", sim_clear_faults, true},
+    {"block", "sim block CMD [KEY...]", "show a stored block as words", sim_block},
+    {"set", "sim set CMD OFFSET VALUE [KEY...]", "change one word of a stored block", sim_set, true},
+    {"blocks", "sim blocks", "list the simulated blocks and commands", sim_blocks},
+    {"counters", "sim counters fill|set ...",
+     "fill every counter block with its offsets; 'set CMD OFFSET VALUE [KEY]': one 64-bit counter",
+     sim_counters, true},
+    {"save", "sim save FILE", "write the stored blocks and the bracket state (not the faults or the log)",
+     sim_state_file},
+    {"load", "sim load FILE", "restore them; a malformed file changes nothing", sim_state_file, true},
 };
 
 }  // namespace
@@ -220,7 +221,7 @@ std::span<const SimCommand> sim_commands() { return kSimCommands; }
 
 bool run_sim(std::ostream &out, const std::vector<std::string> &words) {
     if (words.size() < 2) {
-        for (const SimCommand &s : kSimCommands) out << "sim " << s.usage << "\n";
+        for (const SimCommand &s : kSimCommands) out << help_line(s.usage, s.summary);
         return words.size() == 1;
     }
     for (const SimCommand &s : kSimCommands) {
