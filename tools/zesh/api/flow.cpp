@@ -7,7 +7,11 @@ namespace zesh::api {
 
 namespace {
 
-#define ZE_VOICE_SERVICE "key_mask=0x8 dip=10.10.0.5 dip_mask=255.255.255.255 act_mask=0x4 spri=5 fwd_act=2"
+// Three key entries (destination MAC, destination and source address), so
+// the examples install and remove a rule of several entries.
+#define ZE_VOICE_SERVICE                                                                              \
+    "key_mask=0x1e dmac=00:11:22:33:44:55 dmac_mask=ff:ff:ff:ff:ff:ff dip=10.10.0.5 "                 \
+    "dip_mask=255.255.255.255 sip=10.20.0.0 sip_mask=255.255.0.0 act_mask=0x4 spri=5 fwd_act=2"
 #define ZE_ADD_VOICE "api ze_lsw_flow_add_service " ZE_VOICE_SERVICE
 #define ZE_VLAN_MAPPING "key_mask=2 vlan=100"
 #define ZE_ADD_MAPPING "api ze_lsw_flow_add_mapping " ZE_VLAN_MAPPING " dir=0"
@@ -33,15 +37,15 @@ std::span<const Row> flow_rows() {
                    kNoDriver, rule(), action(), fwd_act(), out_u16("fid", "the service's fid")),
         ZE_API_ROW(ze_lsw_flow_del_service, "remove the service with this rule and action", {ZE_VOICE_SERVICE, ZE_ADD_VOICE},
                    0, rule(), action(), fwd_act()),
-        ZE_API_ROW(ze_lsw_flow_del_fid, "remove the service named by its fid", {"1", ZE_ADD_VOICE}, 0, fid()),
+        ZE_API_ROW(ze_lsw_flow_del_fid, "remove the service named by its (last) fid", {"3", ZE_ADD_VOICE}, 0, fid()),
         ZE_API_ROW(ze_lsw_flow_add_mapping, "install a mapping in the lowest free sfid (normalised for the direction)",
                    ZE_VLAN_MAPPING " dir=0", 0, rec_inout(kMapping, "mapping", "the mapping record"), dir(),
                    out_u16("sfid", "the mapping's sfid")),
-        ZE_API_ROW(ze_lsw_flow_del_mapping, "remove the mapping with this record", {ZE_VLAN_MAPPING " dir=0", ZE_ADD_MAPPING},
+        ZE_API_ROW(ze_lsw_flow_del_mapping, "remove the mapping with this record", {ZE_VLAN_MAPPING " dir=0", ZE_ADD_GEM},
                    0, rec_inout(kMapping, "mapping", "the mapping record"), dir()),
         ZE_API_ROW(ze_lsw_flow_del_mapping_by_sfid, "remove the GEM port of an sfid, then its mapping", {"0", ZE_ADD_GEM},
                    0, sfid()),
-        ZE_API_ROW(ze_lsw_flow_del_all, "remove every service, then every mapping", {"0 0 0 0", ZE_ADD_VOICE "; " ZE_ADD_MAPPING},
+        ZE_API_ROW(ze_lsw_flow_del_all, "remove every service, then every mapping", {"0 0 0 0", ZE_ADD_VOICE "; " ZE_ADD_GEM},
                    0, unused("a1"), unused("a2"), unused("a3"), unused("a4")),
         ZE_API_ROW(ze_lsw_flow_change_igmp_pri, "install a service giving IGMP traffic of every port a priority", "5", 0,
                    u32("pri", "the priority")),
@@ -73,13 +77,13 @@ std::span<const Row> flow_rows() {
         ZE_API_ROW(ze_lsw_flow_set_sfc, "write a mapping into the lowest free sfid", ZE_VLAN_MAPPING, 0,
                    rec_in(kMapping, "mapping", "the mapping record"), out_u16("sfid", "the sfid written")),
         ZE_API_ROW(ze_lsw_flow_delete_sfc, "clear the classifier entry of an sfid", {"0", ZE_ADD_MAPPING}, 0, sfid()),
-        ZE_API_ROW(ze_lsw_flow_sfc_delete_all, "clear every simple-classifier entry in use", {"", ZE_ADD_MAPPING}, 0),
+        ZE_API_ROW(ze_lsw_flow_sfc_delete_all, "clear every simple-classifier entry in use", {"", ZE_ADD_GEM}, 0),
         ZE_API_ROW(ze_lsw_flow_gemmap_delete_all, "remove the GEM port of every sfid in use", {"", ZE_ADD_GEM}, 0),
         ZE_API_ROW(ze_lsw_flow_sfc_printf_info, "print the simple-classifier shadow", {"", ZE_ADD_MAPPING}, kNoDriver),
 
         ZE_API_ROW(ze_lsw_flow_set_efc, "write a rule's entries from a first fid", "0 " ZE_VOICE_SERVICE, 0,
                    u32("first", "first fid searched"), rule(), action(), fwd_act(), out_u16("fid", "the rule's fid")),
-        ZE_API_ROW(ze_lsw_flow_delete_efc, "clear the entries of the rule named by a fid", {"1", ZE_ADD_VOICE}, 0, fid()),
+        ZE_API_ROW(ze_lsw_flow_delete_efc, "clear the entries of the rule named by a fid", {"3", ZE_ADD_VOICE}, 0, fid()),
         ZE_API_ROW(ze_lsw_flow_efc_delete_all, "clear every extended-classifier rule", {"0 0 0 0", ZE_ADD_VOICE}, 0,
                    unused("a1"), unused("a2"), unused("a3"), unused("a4")),
         ZE_API_ROW(ze_lsw_efc_get_status, "use and end-of-rule flags of a fid (shadow)", "0", kNoDriver, fid(),
