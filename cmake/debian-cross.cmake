@@ -19,6 +19,9 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
 # Target programs (tests, test discovery, the shell) run under qemu-user,
-# with the target's C library and multiarch libraries.
+# with the target's C library and multiarch libraries. /lib comes first and,
+# under -L, is the cross C library's directory: the C library must be the one
+# that matches the cross dynamic loader, not a multiarch or multilib copy of
+# another build (such as i386's /lib32), which breaks fork and exec.
 set(CMAKE_CROSSCOMPILING_EMULATOR ${ZE_CROSS_QEMU} -L /usr/${ZE_CROSS_TRIPLE}
-  -E LD_LIBRARY_PATH=/usr/lib/${ZE_CROSS_MULTIARCH}:/lib/${ZE_CROSS_MULTIARCH})
+  -E LD_LIBRARY_PATH=/lib:/usr/lib/${ZE_CROSS_MULTIARCH}:/lib/${ZE_CROSS_MULTIARCH})
