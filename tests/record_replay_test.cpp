@@ -93,8 +93,11 @@ const Change kChanges[] = {
      [] { zesim::fail(0x505, 7); }, "ioctl /dev/ze_ioctl_dp cmd=0x505 ",
      "  result    recorded 0x00000000, now 0x00000007\n"},
     {"changed_gem_port_block", [] { zetest::run_example("services.zesh"); },
-     [] { zesim::set_word(0x202, 8, 5, {1002}); }, "cmd=0x202 result=0x00000000 sent=ea03",
-     "  returned  byte 8: recorded 00, now 05\n"},
+     // The GEM port word leads the block; a word's low byte comes last on a
+     // big-endian processor.
+     [] { zesim::set_word(0x202, 8, 5, {1002}); },
+     zetest::kBigEndian ? "cmd=0x202 result=0x00000000 sent=000003ea" : "cmd=0x202 result=0x00000000 sent=ea03",
+     zetest::kBigEndian ? "  returned  byte 11: recorded 00, now 05\n" : "  returned  byte 8: recorded 00, now 05\n"},
     {"failing_kernel_call",
      [] {
          uint32_t mode = 0;

@@ -48,7 +48,7 @@ void provision_and_remove(ze_ifm_client *c, uint16_t client, int rounds, int &fa
         len = sizeof got;
         ok = ok && !ze_ifm_client_call_on(c, "gmac_set_gemport", &set, sizeof set, nullptr, nullptr, nullptr) &&
              !ze_ifm_client_call_on(c, "gmac_get_gemport", &got, sizeof got, &got, &len, nullptr) &&
-             got.gemport == set.gemport && (got.tcont & 0xff) == set.tcont &&
+             got.gemport == set.gemport && reinterpret_cast<const uint8_t *>(&got)[4] == set.tcont &&
              !ze_ifm_client_call_on(c, "flow_del_mapping_by_sfid", &m.sfid, 2, nullptr, nullptr, nullptr);
         failures += ok ? 0 : 1;
     }

@@ -31,7 +31,7 @@ protected:
         RawClient c(daemon.socket());
         exchange(c, zetest::frame(ZE_IFM_KIND_CALL, zetest::call_body("chip_get_version", kVersionRequest), 7));
         EXPECT_EQ(last.status, ZE_IFM_STATUS_OK);
-        EXPECT_EQ(last.data, (std::vector<uint8_t>{0x02, 0x00, 0x01, 0x00}));
+        EXPECT_EQ(last.data, zetest::native_words({0x00010002}));
     }
 
     void exchange(RawClient &c, const std::vector<uint8_t> &f) {
