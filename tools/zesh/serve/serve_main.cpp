@@ -90,6 +90,10 @@ int serve_main(int argc, char **argv) {
         serve::log_line("cannot detach: %s", std::strerror(errno));
         return 1;
     }
+    // Held from before the socket exists: a stop that arrives while the
+    // daemon starts is taken by the loop, which removes the socket, instead
+    // of killing the daemon and leaving the socket file behind.
+    const sigset_t wait_mask = hold_stop_signals();
     if (!options->device.empty()) ze_host_use_device(options->device.c_str());
     if (!options->record.empty() && ze_host_record_start(options->record.c_str())) {
         serve::log_line("cannot write the recording %s", options->record.c_str());
@@ -104,7 +108,6 @@ int serve_main(int argc, char **argv) {
         serve::log_line("%s", error.c_str());
         return 1;
     }
-    const sigset_t wait_mask = hold_stop_signals();
     if (ready >= 0) {
         (void)!write(ready, "\1", 1);
         close(ready);
