@@ -29,15 +29,10 @@ bool numbers(std::ostream &out, const std::vector<std::string> &args, size_t fro
     return true;
 }
 
+// A block's first bytes in hex.
 std::string hex(const zesim::Bytes &b, size_t max = 24) {
-    std::string s;
-    char x[4];
-    for (size_t i = 0; i < b.size() && i < max; ++i) {
-        std::snprintf(x, sizeof x, "%02x", b[i]);
-        s += x;
-    }
-    if (b.size() > max) s += "...";
-    return s;
+    const std::span<const uint8_t> all(b);
+    return b.size() > max ? zesim::to_hex(all.first(max)) + "..." : zesim::to_hex(all);
 }
 
 bool block_exists(std::ostream &out, uint32_t id) {

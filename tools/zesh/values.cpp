@@ -1,5 +1,7 @@
 #include "values.h"
 
+#include "ze_sim.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -59,13 +61,10 @@ bool is_integer(FieldType t) {
            t == FieldType::I32;
 }
 
-std::string hex_of(const uint8_t *p, uint32_t n, bool colons) {
+// A MAC address as its bytes in hex, separated by ':'.
+std::string mac_text(const uint8_t *p, uint32_t n) {
     std::string s;
-    char b[4];
-    for (uint32_t i = 0; i < n; ++i) {
-        std::snprintf(b, sizeof b, colons && i ? ":%02x" : "%02x", p[i]);
-        s += b;
-    }
+    for (uint32_t i = 0; i < n; ++i) s += (i ? ":" : "") + zesim::to_hex({p + i, 1});
     return s;
 }
 
@@ -204,8 +203,8 @@ std::string format_value(const Field &f, const uint8_t *base) {
     const uint8_t *p = base + f.offset;
     char buf[64];
     switch (f.type) {
-        case FieldType::Mac:
-        case FieldType::Bytes: return f.name + " = " + hex_of(p, f.size, f.type == FieldType::Mac);
+        case FieldType::Mac: return f.name + " = " + mac_text(p, f.size);
+        case FieldType::Bytes: return f.name + " = " + zesim::to_hex({p, f.size});
         case FieldType::Text: return f.name + " = \"" + text_of(f, base) + "\"";
         case FieldType::Ipv4: {
             uint32_t v = static_cast<uint32_t>(load_int(p, 4));

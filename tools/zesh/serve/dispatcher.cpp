@@ -1,7 +1,6 @@
 #include "dispatcher.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 #include <sstream>
 #include <string>
@@ -11,6 +10,7 @@
 #include "executor.h"
 #include "request.h"
 #include "shell.h"
+#include "ze_sim.h"
 #include "ze_host.h"
 
 namespace zesh::serve {
@@ -29,12 +29,7 @@ void note(const ucred &peer, const std::string &what) {
 // A call as the shell line that sends the same request.
 std::string call_line(const std::string &name, std::span<const uint8_t> bytes, uint32_t length) {
     std::string s = name;
-    if (!bytes.empty()) s += " --hex ";
-    for (uint8_t b : bytes) {
-        char x[3];
-        std::snprintf(x, sizeof x, "%02x", b);
-        s += x;
-    }
+    if (!bytes.empty()) s += " --hex " + zesim::to_hex(bytes);
     return bytes.size() != length ? s + " --len " + std::to_string(length) : s;
 }
 
