@@ -112,13 +112,9 @@ bool parse_hex_bytes(const std::string &s, std::vector<uint8_t> &out) {
     std::string digits;
     for (char c : s)
         if (c != ':' && c != '-' && c != '.') digits += c;
-    if (digits.size() % 2) return false;
-    for (size_t i = 0; i < digits.size(); i += 2) {
-        if (!std::isxdigit(static_cast<unsigned char>(digits[i])) ||
-            !std::isxdigit(static_cast<unsigned char>(digits[i + 1])))
-            return false;
-        out.push_back(static_cast<uint8_t>(std::strtoul(digits.substr(i, 2).c_str(), nullptr, 16)));
-    }
+    zesim::Bytes bytes;
+    if (!zesim::from_hex(digits, bytes)) return false;
+    out.insert(out.end(), bytes.begin(), bytes.end());
     return true;
 }
 
