@@ -24,12 +24,7 @@ std::vector<std::string> inputs_of(const std::vector<Field> &fields) {
 }
 
 std::vector<std::string> candidates(const std::vector<std::string> &before) {
-    if (before.empty()) {
-        std::vector<std::string> names;
-        for (const Builtin &b : builtins()) names.push_back(b.name);
-        for (const CommandSpec &c : all_commands()) names.push_back(c.name);
-        return names;
-    }
+    if (before.empty()) return command_words();
     const std::string &cmd = before[0];
     if (cmd == "sim" && before.size() == 1) {
         std::vector<std::string> names;

@@ -28,12 +28,6 @@ std::string format(const char *fmt, auto... args) {
     return text;
 }
 
-std::string joined(const std::vector<std::string> &words) {
-    std::string s;
-    for (const std::string &w : words) s += (s.empty() ? "" : " ") + w;
-    return s;
-}
-
 // Room for a block whose length no descriptor gave: the largest they know.
 size_t largest_block() {
     uint32_t n = 0;

@@ -41,21 +41,20 @@ const CodeText *code_text(uint32_t code) {
     return nullptr;
 }
 
+}  // namespace
+
 std::string joined(const std::vector<std::string> &words) {
     std::string s;
     for (const std::string &w : words) s += (s.empty() ? "" : " ") + w;
     return s;
 }
 
-// Command names and built-ins, for "did you mean".
 std::vector<std::string> command_words() {
     std::vector<std::string> names;
     for (const Builtin &b : builtins()) names.push_back(b.name);
     for (const CommandSpec &c : all_commands()) names.push_back(c.name);
     return names;
 }
-
-}  // namespace
 
 const char *result_meaning(uint32_t code) {
     const CodeText *c = code_text(code);

@@ -58,6 +58,10 @@ std::vector<std::vector<std::string>> split_line(const std::string &line);
 // The words as a line that split_line gives back as the same words (a word
 // that is empty or holds a blank, ';' or '#' is quoted).
 std::string quoted_line(const std::vector<std::string> &words);
+// The words with one blank between them, as messages quote a line.
+std::string joined(const std::vector<std::string> &words);
+// The built-ins' names, then the commands' names: what a line may start with.
+std::vector<std::string> command_words();
 
 // The meaning and the symbolic name of a result code, as the shell prints them.
 const char *result_meaning(uint32_t code);
