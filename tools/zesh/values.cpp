@@ -64,7 +64,10 @@ bool is_integer(FieldType t) {
 // A MAC address as its bytes in hex, separated by ':'.
 std::string mac_text(const uint8_t *p, uint32_t n) {
     std::string s;
-    for (uint32_t i = 0; i < n; ++i) s += (i ? ":" : "") + zesim::to_hex({p + i, 1});
+    for (uint32_t i = 0; i < n; ++i) {
+        if (i) s += ':';
+        s += zesim::to_hex({p + i, 1});
+    }
     return s;
 }
 
